@@ -1,0 +1,11 @@
+// Marks what the shared libraries export. Everything else is compiled with hidden visibility.
+#ifndef JOURNALSERVICEHELPER_EXPORT_H
+#define JOURNALSERVICEHELPER_EXPORT_H
+
+#if defined(__GNUC__)
+#define JOURNAL_EXPORT __attribute__((visibility("default")))
+#else
+#define JOURNAL_EXPORT
+#endif
+
+#endif

@@ -1,0 +1,164 @@
+// The public operations that read one call, one entry or a whole log, four of each.
+#include "JournalServiceHelper.h"
+#include "records/Decoder.h"
+#include "vocabulary/Words.h"
+#include "xml/Cursor.h"
+
+using namespace journal;
+
+namespace {
+
+// Texts end at their first NUL, as they do for every reader of records.
+std::string_view viewOfText(std::string const& text) {
+  return viewOf(text.c_str());
+}
+
+unsigned int handleOf(std::string const& xml) {
+  auto const text = unescaped(readFirst<word::HANDLE>(viewOfText(xml)));
+  return static_cast<unsigned int>(numberAtFrontOf(text));
+}
+
+} // namespace
+
+bool JournalServiceHelper::getXMLMissedCallInfo(char const* xml,
+                                                MissedCallItem::MissedCallInfo& info) {
+  readInfo<MissedCallItem>(viewOf(xml), info);
+  return true;
+}
+
+bool JournalServiceHelper::getXMLDialledCallInfo(char const* xml,
+                                                 DialledCallItem::DialledCallInfo& info) {
+  readInfo<DialledCallItem>(viewOf(xml), info);
+  return true;
+}
+
+bool JournalServiceHelper::getXMLReceivedCallInfo(char const* xml,
+                                                  ReceivedCallItem::ReceivedCallInfo& info) {
+  readInfo<ReceivedCallItem>(viewOf(xml), info);
+  return true;
+}
+
+bool JournalServiceHelper::getXMLForwardedCallInfo(char const* xml,
+                                                   ForwardedCallItem::ForwardedCallInfo& info) {
+  readInfo<ForwardedCallItem>(viewOf(xml), info);
+  return true;
+}
+
+bool JournalServiceHelper::getXMLMissedCallInfoList(
+    char const* xml, std::list<MissedCallItem::MissedCallInfo>& list) {
+  return readInfoList<MissedCallItem>(viewOf(xml), list);
+}
+
+bool JournalServiceHelper::getXMLDialledCallInfoList(
+    char const* xml, std::list<DialledCallItem::DialledCallInfo>& list) {
+  return readInfoList<DialledCallItem>(viewOf(xml), list);
+}
+
+bool JournalServiceHelper::getXMLReceivedCallInfoList(
+    char const* xml, std::list<ReceivedCallItem::ReceivedCallInfo>& list) {
+  return readInfoList<ReceivedCallItem>(viewOf(xml), list);
+}
+
+bool JournalServiceHelper::getXMLForwardedCallInfoList(
+    char const* xml, std::list<ForwardedCallItem::ForwardedCallInfo>& list) {
+  return readInfoList<ForwardedCallItem>(viewOf(xml), list);
+}
+
+bool JournalServiceHelper::parseXMLMissedCallItem(char const* xml, MissedCallItem& item) {
+  readItem(viewOf(xml), item);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLMissedCallItem(std::string const& xml, MissedCallItem& item) {
+  return parseXMLMissedCallItem(xml.c_str(), item);
+}
+
+bool JournalServiceHelper::parseXMLDialledCallItem(char const* xml, DialledCallItem& item) {
+  readItem(viewOf(xml), item);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLDialledCallItem(std::string const& xml, DialledCallItem& item) {
+  return parseXMLDialledCallItem(xml.c_str(), item);
+}
+
+bool JournalServiceHelper::parseXMLReceivedCallItem(char const* xml, ReceivedCallItem& item) {
+  readItem(viewOf(xml), item);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLReceivedCallItem(std::string const& xml,
+                                                    ReceivedCallItem& item) {
+  return parseXMLReceivedCallItem(xml.c_str(), item);
+}
+
+bool JournalServiceHelper::parseXMLForwardedCallItem(char const* xml, ForwardedCallItem& item) {
+  readItem(viewOf(xml), item);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLForwardedCallItem(std::string const& xml,
+                                                     ForwardedCallItem& item) {
+  return parseXMLForwardedCallItem(xml.c_str(), item);
+}
+
+bool JournalServiceHelper::parseXMLGetLastDialledNumber(std::string const& xml,
+                                                        DialledCallItem& item) {
+  return parseXMLDialledCallItem(xml, item);
+}
+
+bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
+                                                  std::deque<MissedCallItem>& items) {
+  readItems(viewOfText(xml), items);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
+                                                  std::deque<MissedCallItem>& items,
+                                                  unsigned int& handle) {
+  parseXMLMissedCallList(xml, items);
+  handle = handleOf(xml);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
+                                                   std::deque<DialledCallItem>& items) {
+  readItems(viewOfText(xml), items);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
+                                                   std::deque<DialledCallItem>& items,
+                                                   unsigned int& handle) {
+  parseXMLDialledCallList(xml, items);
+  handle = handleOf(xml);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
+                                                    std::deque<ReceivedCallItem>& items) {
+  readItems(viewOfText(xml), items);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
+                                                    std::deque<ReceivedCallItem>& items,
+                                                    unsigned int& handle) {
+  parseXMLReceivedCallList(xml, items);
+  handle = handleOf(xml);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
+                                                     std::deque<ForwardedCallItem>& items) {
+  readItems(viewOfText(xml), items);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
+                                                     std::deque<ForwardedCallItem>& items,
+                                                     unsigned int& handle) {
+  parseXMLForwardedCallList(xml, items);
+  handle = handleOf(xml);
+  return true;
+}

@@ -1,0 +1,20 @@
+// Turns the raw values of elements into the values of fields.
+#include "records/FieldReader.h"
+
+#include "ClientUtils.h"
+
+namespace journal {
+
+std::string FieldReader::unescape(std::string_view raw) {
+  scratch_.assign(raw.data(), raw.size());
+  return ClientUtils::unescapeXMLString(scratch_);
+}
+
+void FieldReader::readText(std::string_view raw, std::string& text) {
+  if (isMissing(raw))
+    text.clear();
+  else
+    text = unescape(raw);
+}
+
+} // namespace journal

@@ -1,0 +1,84 @@
+// Turns the raw values of elements into the values of fields.
+#ifndef JOURNAL_RECORDS_FIELDREADER_H
+#define JOURNAL_RECORDS_FIELDREADER_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+#include "convert/EnumTexts.h"
+#include "records/Fields.h"
+#include "xml/Text.h"
+
+namespace journal {
+
+/// One lives through the decoding of one message.
+class FieldReader {
+public:
+  /// Stores a raw value, missing or not, in the field of a row.
+  template <class Record>
+  JOURNAL_INLINE inline void store(std::string_view raw, Field<Record> const& row, Record& record) {
+    switch (row.content) {
+    case Content::text:
+      return readText(raw, record.*row.member.text);
+    case Content::flag:
+      record.*row.member.flag = raw == word::TRUE;
+      return;
+    case Content::numberType:
+      record.*row.member.numberType = readMember<NumberType::NT>(raw);
+      return;
+    case Content::targetLog:
+      record.*row.member.targetLog = readMember<CallLogEntryEvent::_LogTarget>(raw);
+      return;
+    case Content::presentation:
+      record.*row.member.presentation = readMember<CallLogEntryEvent::_PresentationValue>(raw);
+      return;
+    case Content::timeFormat:
+      record.*row.member.timeFormat = readMember<CallLogEntryEvent::_TFormat>(raw);
+      return;
+    }
+  }
+
+private:
+  void readText(std::string_view raw, std::string& text);
+
+  /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
+  /// the same text always gives the same, asking once for each member's text is enough.
+  template <class Enum>
+  Enum readMember(std::string_view raw) {
+    if (isMissing(raw))
+      return EnumTexts<Enum>::fallback;
+    auto const index = indexOf<Enum>(raw);
+    if (index == enumSize<Enum>)
+      return memberOf<Enum>(unescape(raw));
+    auto& known = std::get<KnownMembers<Enum>>(known_).members[index];
+    if (known == unknown)
+      known = static_cast<std::int8_t>(memberOf<Enum>(unescape(raw)));
+    return static_cast<Enum>(known);
+  }
+
+  std::string unescape(std::string_view raw);
+
+  static constexpr std::int8_t unknown = -1;
+
+  template <class Enum>
+  struct KnownMembers {
+    std::int8_t members[enumSize<Enum>];
+    constexpr KnownMembers() : members() {
+      for (auto& member : members)
+        member = unknown;
+    }
+  };
+
+  std::tuple<KnownMembers<NumberType::NT>, KnownMembers<CallLogEntryEvent::_LogTarget>,
+             KnownMembers<CallLogEntryEvent::_PresentationValue>,
+             KnownMembers<CallLogEntryEvent::_TFormat>>
+      known_;
+  std::string scratch_; // kept, so that long values do not allocate one each
+};
+
+} // namespace journal
+
+#endif

@@ -1,0 +1,72 @@
+// The service's answers to list requests: whole logs.
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
+#include <limits>
+
+#include "ClientUtils.h"
+#include "JournalServiceHelper.h"
+#include "records/Encoder.h"
+#include "records/Kinds.h"
+#include "xml/Building.h"
+
+using namespace journal;
+
+namespace {
+
+// The length of the longest answer so far, of whatever kind: the library's only state. It decides
+// how much memory is reserved and nothing else, so a relaxed maximum is enough.
+std::atomic<std::uint32_t> listResponseSizeHint{0};
+
+// A log that grew by some entries since the longest answer still fits.
+constexpr std::size_t roomToGrow = 4096;
+
+void raiseSizeHint(std::size_t size) {
+  auto const length = static_cast<std::uint32_t>(
+      std::min<std::size_t>(size, std::numeric_limits<std::uint32_t>::max()));
+  auto hint = listResponseSizeHint.load(std::memory_order_relaxed);
+  while (hint < length &&
+         !listResponseSizeHint.compare_exchange_weak(hint, length, std::memory_order_relaxed))
+    continue;
+}
+
+template <class Item>
+std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
+  constexpr auto entry = element<word::ENTRY>;
+  std::string message;
+  message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
+  append(message, {element<word::METHOD>.begin, Kind<Item>::method, element<word::METHOD>.close});
+  for (auto const& item : items) {
+    message.append(entry.begin);
+    appendItemBody(item, message, false);
+    message.append(entry.close);
+  }
+  append(message,
+         {element<word::HANDLE>.begin, ClientUtils::itos(static_cast<std::int32_t>(handle)),
+          element<word::HANDLE>.close});
+  raiseSizeHint(message.size());
+  return message;
+}
+
+} // namespace
+
+std::string JournalServiceHelper::respGetMissedCallList(std::deque<MissedCallItem> const& items,
+                                                        unsigned int handle) {
+  return listResponse(items, handle);
+}
+
+std::string JournalServiceHelper::respGetDialledCallList(std::deque<DialledCallItem> const& items,
+                                                         unsigned int handle) {
+  return listResponse(items, handle);
+}
+
+std::string JournalServiceHelper::respGetReceivedCallList(std::deque<ReceivedCallItem> const& items,
+                                                          unsigned int handle) {
+  return listResponse(items, handle);
+}
+
+std::string
+JournalServiceHelper::respGetForwardedCallList(std::deque<ForwardedCallItem> const& items,
+                                               unsigned int handle) {
+  return listResponse(items, handle);
+}

@@ -1,0 +1,77 @@
+// The service's notifications to its observers.
+#include <algorithm>
+
+#include "ClientUtils.h"
+#include "JournalServiceHelper.h"
+#include "records/Encoder.h"
+#include "records/Kinds.h"
+#include "xml/Building.h"
+
+using namespace journal;
+
+namespace {
+
+using Action = JournalServiceObserverIfc::ActionType;
+
+// One digit for every value: a value that has none gets the nearest.
+std::string_view digitOf(Action action) {
+  constexpr std::int32_t last = static_cast<std::int32_t>(word::DIGITS.size()) - 1;
+  auto const digit = std::clamp<std::int32_t>(action, 0, last);
+  return word::DIGITS.substr(static_cast<std::size_t>(digit), 1);
+}
+
+template <class Item>
+std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, Action action,
+                        unsigned int handle) {
+  constexpr auto removed = element<word::UNIQUEIDTODELETE>;
+  auto message =
+      enveloped({element<word::METHOD>.begin, Kind<Item>::update, element<word::METHOD>.close});
+  appendItemBody(item, message, false);
+  if (!uniqueIdToDelete.empty())
+    append(message, {removed.begin, uniqueIdToDelete, removed.close});
+  append(message,
+         {element<word::ACTIONTYPE>.begin, digitOf(action), element<word::ACTIONTYPE>.close,
+          element<word::HANDLE>.begin, ClientUtils::itos(static_cast<std::int32_t>(handle)),
+          element<word::HANDLE>.close});
+  return message;
+}
+
+std::string counterUpdate(std::string_view method, unsigned int count) {
+  return enveloped({element<word::METHOD>.begin, method, element<word::METHOD>.close,
+                    element<word::VALUE>.begin, std::to_string(static_cast<std::int32_t>(count)),
+                    element<word::VALUE>.close});
+}
+
+} // namespace
+
+std::string JournalServiceHelper::obsReqMissedCallsUpdate(
+    MissedCallItem const& item, std::string uniqueIdToDelete,
+    JournalServiceObserverIfc::ActionType action, unsigned int handle) {
+  return entryUpdate(item, uniqueIdToDelete, action, handle);
+}
+
+std::string JournalServiceHelper::obsReqDialledCallsUpdate(
+    DialledCallItem const& item, std::string uniqueIdToDelete,
+    JournalServiceObserverIfc::ActionType action, unsigned int handle) {
+  return entryUpdate(item, uniqueIdToDelete, action, handle);
+}
+
+std::string JournalServiceHelper::obsReqReceivedCallsUpdate(
+    ReceivedCallItem const& item, std::string uniqueIdToDelete,
+    JournalServiceObserverIfc::ActionType action, unsigned int handle) {
+  return entryUpdate(item, uniqueIdToDelete, action, handle);
+}
+
+std::string JournalServiceHelper::obsReqForwardedCallsUpdate(
+    ForwardedCallItem const& item, std::string uniqueIdToDelete,
+    JournalServiceObserverIfc::ActionType action, unsigned int handle) {
+  return entryUpdate(item, uniqueIdToDelete, action, handle);
+}
+
+std::string JournalServiceHelper::obsReqMissedCallsCountUpdate(unsigned int count) {
+  return counterUpdate(word::MISSEDCALLSCOUNTUPDATE_XML, count);
+}
+
+std::string JournalServiceHelper::obsReqMissedGroupCallsUpdate(unsigned int count) {
+  return counterUpdate(word::MISSEDGROUPCALLSUPDATE_XML, count);
+}

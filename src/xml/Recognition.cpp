@@ -1,0 +1,86 @@
+// What the service and its clients read off a whole message: the method, the unique id of the first
+// entry, the call-log setting.
+#include <string_view>
+#include <utility>
+
+#include "JournalServiceHelper.h"
+#include "vocabulary/Tags.h"
+#include "vocabulary/Words.h"
+#include "xml/Cursor.h"
+#include "xml/Text.h"
+
+using namespace journal;
+
+namespace {
+
+struct Method {
+  std::string_view tag;
+  JournalServiceHelper::MethodCode code;
+};
+
+// In the order of the search, which is not that of the codes; it decides when a damaged message
+// holds several tags. The group calls update is not here: it is sent, but never recognised.
+constexpr Method methods[] = {
+    {word::GETMISSEDCALLLIST_XML, JournalServiceHelper::GETMISSEDCALLLIST},
+    {word::SETMISSEDCALLLISTASVIEWED_XML, JournalServiceHelper::SETMISSEDCALLLISTASVIEWED},
+    {word::DELETEMISSEDCALL_XML, JournalServiceHelper::DELETEMISSEDCALL},
+    {word::DELETEMISSEDCALLLIST_XML, JournalServiceHelper::DELETEMISSEDCALLLIST},
+    {word::GETDIALLEDCALLLIST_XML, JournalServiceHelper::GETDIALLEDCALLLIST},
+    {word::DELETEDIALLEDCALL_XML, JournalServiceHelper::DELETEDIALLEDCALL},
+    {word::DELETEDIALLEDCALLLIST_XML, JournalServiceHelper::DELETEDIALLEDCALLLIST},
+    {word::GETLASTDIALLEDNUMBER_XML, JournalServiceHelper::GETLASTDIALLEDNUMBER},
+    {word::GETRECEIVEDCALLLIST_XML, JournalServiceHelper::GETRECEIVEDCALLLIST},
+    {word::DELETERECEIVEDCALL_XML, JournalServiceHelper::DELETERECEIVEDCALL},
+    {word::DELETERECEIVEDCALLLIST_XML, JournalServiceHelper::DELETERECEIVEDCALLLIST},
+    {word::GETFORWARDEDCALLLIST_XML, JournalServiceHelper::GETFORWARDEDCALLLIST},
+    {word::DELETEFORWARDEDCALL_XML, JournalServiceHelper::DELETEFORWARDEDCALL},
+    {word::DELETEFORWARDEDCALLLIST_XML, JournalServiceHelper::DELETEFORWARDEDCALLLIST},
+    {word::SUBSCRIBE_XML, JournalServiceHelper::SUBSCRIBE},
+    {word::UNSUBSCRIBE_XML, JournalServiceHelper::UNSUBSCRIBE},
+    {word::REFRESHCALLLOG_XML, JournalServiceHelper::REFRESHCALLLOG},
+    {word::MISSEDCALLSUPDATE_XML, JournalServiceHelper::MISSEDCALLSUPDATE},
+    {word::MISSEDCALLSCOUNTUPDATE_XML, JournalServiceHelper::MISSEDCALLSCOUNTUPDATE},
+    {word::DIALLEDCALLSUPDATE_XML, JournalServiceHelper::DIALLEDCALLSUPDATE},
+    {word::RECEIVEDCALLSUPDATE_XML, JournalServiceHelper::RECEIVEDCALLSUPDATE},
+    {word::FORWARDEDCALLSUPDATE_XML, JournalServiceHelper::FORWARDEDCALLSUPDATE},
+};
+
+} // namespace
+
+JournalServiceHelper::MethodCode
+JournalServiceHelper::getMethodFromXMLMsg(std::string const& message) {
+  auto const begin = message.find(element<word::METHOD>.begin);
+  auto const close = message.find(element<word::METHOD>.close);
+  if (begin == std::string::npos || close == std::string::npos)
+    return UNKNOWN_METHOD;
+  // With the close tag in front of the begin tag the difference wraps, and the search runs to the
+  // end of the message.
+  auto const searched = std::string_view(message).substr(begin, close - begin);
+  for (auto const& method : methods)
+    if (searched.find(method.tag) != std::string_view::npos)
+      return method.code;
+  return UNKNOWN_METHOD;
+}
+
+bool JournalServiceHelper::parseLastUniqueId(std::string const& message, std::string& uniqueId) {
+  auto const text = viewOf(message.c_str());
+  auto const begin = text.find(element<word::ENTRY>.begin);
+  if (begin == std::string_view::npos)
+    return false;
+  auto const entry = begin + element<word::ENTRY>.begin.size();
+  auto const close = text.find(element<word::ENTRY>.close, entry);
+  if (close == std::string_view::npos)
+    return false;
+  // Written into the caller's text on purpose, for clients that rely on its ending here afterwards.
+  const_cast<char&>(message[close]) = '\0';
+  auto value = unescaped(readFirst<word::UNIQUEID>(text.substr(entry, close - entry)));
+  if (value.empty())
+    return false;
+  uniqueId = std::move(value);
+  return true;
+}
+
+bool JournalServiceHelper::parseXMLEnabledStateItem(std::string const& message) {
+  auto const value = unescaped(readFirst<word::CALL_LOG_ENABLED>(viewOf(message.c_str())));
+  return value.empty() || value == word::ENABLED_TRUE;
+}

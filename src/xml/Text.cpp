@@ -1,0 +1,35 @@
+// Values and numbers read from texts.
+#include "xml/Text.h"
+
+#include <cstddef>
+#include <limits>
+
+#include "ClientUtils.h"
+
+namespace journal {
+
+std::string unescaped(std::string_view raw) {
+  return isMissing(raw) ? std::string() : ClientUtils::unescapeXMLString(std::string(raw));
+}
+
+std::int32_t numberAtFrontOf(std::string_view text) {
+  constexpr std::string_view whitespace = " \t\n\v\f\r";
+  constexpr std::int64_t smallest = std::numeric_limits<std::int32_t>::min();
+  constexpr std::int64_t largest = std::numeric_limits<std::int32_t>::max();
+
+  std::size_t at = 0;
+  while (at < text.size() && whitespace.find(text[at]) != std::string_view::npos)
+    ++at;
+  bool const negative = at < text.size() && text[at] == '-';
+  if (at < text.size() && (text[at] == '-' || text[at] == '+'))
+    ++at;
+  std::int64_t number = 0;
+  for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; ++at) {
+    number = number * 10 + (text[at] - '0');
+    if (number > largest)
+      return static_cast<std::int32_t>(negative ? smallest : largest);
+  }
+  return static_cast<std::int32_t>(negative ? -number : number);
+}
+
+} // namespace journal
