@@ -1,0 +1,38 @@
+# Installation: headers, libraries, the CMake package and the pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/JournalServiceHelper)
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS JournalServiceHelper ClientUtils
+  EXPORT JournalServiceHelperTargets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT JournalServiceHelperTargets
+  NAMESPACE JournalServiceHelper::
+  DESTINATION ${package_dir})
+
+configure_package_config_file(
+  ${PROJECT_SOURCE_DIR}/packaging/JournalServiceHelperConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/JournalServiceHelperConfig.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(
+  ${PROJECT_BINARY_DIR}/JournalServiceHelperConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/JournalServiceHelperConfig.cmake
+  ${PROJECT_BINARY_DIR}/JournalServiceHelperConfigVersion.cmake
+  DESTINATION ${package_dir})
+
+# What a program links: the product's own utility library by its path, the stand-in by its name.
+if(JOURNAL_CLIENTUTILS_LIBRARY)
+  set(clientutils_to_link ${JOURNAL_CLIENTUTILS_LIBRARY})
+else()
+  set(clientutils_to_link -lClientUtils)
+endif()
+configure_file(
+  ${PROJECT_SOURCE_DIR}/packaging/JournalServiceHelper.pc.in
+  ${PROJECT_BINARY_DIR}/JournalServiceHelper.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/JournalServiceHelper.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -7,7 +7,8 @@
 
 #include "LogKinds.h"
 
-template <class Kind> class Client {
+template <class Kind>
+class Client {
 public:
   using Log = typename Kind::Log;
   using Item = typename Kind::Item;

@@ -11,6 +11,8 @@
 // Kind::Item      one entry of the log, a party; Kind::Call one of its calls; Kind::Log all entries
 // Kind::listCode  what getMethodFromXMLMsg says of the list request, and of its answer
 // Kind::updateCode  what it says of the notification
+// Kind::unread  what messages carry of a call that reading them passes over
+// Kind::escapesConnectedNames  whether messages carry a call's connected names escaped
 // Kind::hasPresentations  whether a call says what may be shown of it, and how its time is meant
 
 struct Missed {
@@ -19,6 +21,8 @@ struct Missed {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Missed";
   static constexpr char const* sample = "missed.xml";
+  static constexpr char const* unread = "nothing";
+  static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETMISSEDCALLLIST;
   static constexpr auto updateCode = JournalServiceHelper::MISSEDCALLSUPDATE;
@@ -39,6 +43,8 @@ struct Dialled {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Dialled";
   static constexpr char const* sample = "dialled.xml";
+  static constexpr char const* unread = "name presentations";
+  static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETDIALLEDCALLLIST;
   static constexpr auto updateCode = JournalServiceHelper::DIALLEDCALLSUPDATE;
@@ -59,6 +65,8 @@ struct Received {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Received";
   static constexpr char const* sample = "received.xml";
+  static constexpr char const* unread = "connected names";
+  static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETRECEIVEDCALLLIST;
   static constexpr auto updateCode = JournalServiceHelper::RECEIVEDCALLSUPDATE;
@@ -79,6 +87,8 @@ struct Forwarded {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Forwarded";
   static constexpr char const* sample = "forwarded.xml";
+  static constexpr char const* unread = "connected names";
+  static constexpr bool escapesConnectedNames = true;
   static constexpr bool hasPresentations = false;
   static constexpr auto listCode = JournalServiceHelper::GETFORWARDEDCALLLIST;
   static constexpr auto updateCode = JournalServiceHelper::FORWARDEDCALLSUPDATE;

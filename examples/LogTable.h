@@ -11,7 +11,8 @@
 
 /// A column: what it shows of an entry, or else of the entry's latest call, which stands in front.
 /// The widths of one log's columns, with two blanks before each, add up to less than 120.
-template <class Kind> struct LogColumn {
+template <class Kind>
+struct LogColumn {
   char const* title;
   std::size_t most;
   Table::Align align;
@@ -19,7 +20,8 @@ template <class Kind> struct LogColumn {
   std::string (*ofLatestCall)(typename Kind::Call const& call);
 };
 
-template <class Kind> using LogColumns = std::vector<LogColumn<Kind>>;
+template <class Kind>
+using LogColumns = std::vector<LogColumn<Kind>>;
 
 constexpr auto toLeft = Table::Align::LEFT;
 constexpr auto toRight = Table::Align::RIGHT;
@@ -51,14 +53,16 @@ inline std::string outcomeText(CallLogEntryEvent::_LogTarget target) {
   return "";
 }
 
-template <class Kind> std::string numberText(typename Kind::Call const& call) {
+template <class Kind>
+std::string numberText(typename Kind::Call const& call) {
   if constexpr (Kind::hasPresentations)
     if (call.numberPresentation == CallLogEntryEvent::NOT_ALLOWED)
       return "withheld";
   return call.number;
 }
 
-template <class Kind> std::string timeText(typename Kind::Call const& call) {
+template <class Kind>
+std::string timeText(typename Kind::Call const& call) {
   if constexpr (Kind::hasPresentations) {
     if (call.timeFormat == CallLogEntryEvent::FORM_AM)
       return joined(call.timeDate, " ", "am");
@@ -69,7 +73,8 @@ template <class Kind> std::string timeText(typename Kind::Call const& call) {
 }
 
 /// The party to which a call was deflected: its name, or else its number.
-template <class Call> std::string deflectText(Call const& call) {
+template <class Call>
+std::string deflectText(Call const& call) {
   return call.deflectName.empty() ? call.deflectNumber : call.deflectName;
 }
 
@@ -78,7 +83,8 @@ inline std::string reachedText(Dialled::Call const& call) {
   return name.empty() ? call.connectedNumber : name;
 }
 
-template <class Kind> LogColumns<Kind> commonColumns() {
+template <class Kind>
+LogColumns<Kind> commonColumns() {
   using Item = typename Kind::Item;
   using Call = typename Kind::Call;
   return {
@@ -107,7 +113,7 @@ inline LogColumns<Missed> ownColumns(Missed) {
 inline LogColumns<Dialled> ownColumns(Dialled) {
   using Call = Dialled::Call;
   return {
-      {"Duration", 9, toLeft, nullptr,
+      {"Result", 9, toLeft, nullptr,
        [](Call const& call) {
          return call.duration.empty() ? outcomeText(call.targetLog) : call.duration;
        }},
@@ -145,7 +151,8 @@ std::string cellText(LogColumn<Kind> const& column, typename Kind::Item const& i
 }
 
 /// Prints one row per entry, the front of the log first.
-template <class Kind> void printLog(std::ostream& out, typename Kind::Log const& log) {
+template <class Kind>
+void printLog(std::ostream& out, typename Kind::Log const& log) {
   LogColumns<Kind> columns = commonColumns<Kind>();
   for (LogColumn<Kind> const& column : ownColumns(Kind{}))
     columns.push_back(column);

@@ -50,7 +50,8 @@ inline bool operator==(Forwarded::Call const& a, Forwarded::Call const& b) {
   return fields(a) == fields(b);
 }
 
-template <class Item> bool sameParty(Item const& a, Item const& b) {
+template <class Item>
+bool sameParty(Item const& a, Item const& b) {
   return std::tie(a.uniqueId, a.entryId, a.surname, a.firstname, a.picture, a.callInfoList) ==
          std::tie(b.uniqueId, b.entryId, b.surname, b.firstname, b.picture, b.callInfoList);
 }
@@ -61,7 +62,9 @@ inline bool operator==(Missed::Item const& a, Missed::Item const& b) {
 inline bool operator==(Dialled::Item const& a, Dialled::Item const& b) {
   return sameParty(a, b) && a.jsGroupBy == b.jsGroupBy;
 }
-inline bool operator==(Received::Item const& a, Received::Item const& b) { return sameParty(a, b); }
+inline bool operator==(Received::Item const& a, Received::Item const& b) {
+  return sameParty(a, b);
+}
 inline bool operator==(Forwarded::Item const& a, Forwarded::Item const& b) {
   return sameParty(a, b);
 }
@@ -83,7 +86,8 @@ inline void forgetUnread(Forwarded::Call& call) {
 }
 
 /// The entry as a client reads it.
-template <class Item> Item asRead(Item item) {
+template <class Item>
+Item asRead(Item item) {
   for (auto& call : item.callInfoList) {
     call.infoKey.clear();
     forgetUnread(call);
@@ -92,7 +96,8 @@ template <class Item> Item asRead(Item item) {
 }
 
 /// The log as a client reads it.
-template <class Item> std::deque<Item> asRead(std::deque<Item> log) {
+template <class Item>
+std::deque<Item> asRead(std::deque<Item> log) {
   for (Item& item : log)
     item = asRead(item);
   return log;
@@ -116,22 +121,27 @@ inline std::string replaceElements(std::string text, std::string const& name,
 
 // The same losses in the text of a message: what it becomes when it is read and written again.
 
-template <class Kind> std::string asWrittenAgain(std::string const& message);
+template <class Kind>
+std::string asWrittenAgain(std::string const& message);
 
-template <> inline std::string asWrittenAgain<Missed>(std::string const& message) {
+template <>
+inline std::string asWrittenAgain<Missed>(std::string const& message) {
   return message;
 }
-template <> inline std::string asWrittenAgain<Dialled>(std::string const& message) {
+template <>
+inline std::string asWrittenAgain<Dialled>(std::string const& message) {
   using Helper = JournalServiceHelper;
   return replaceElements(message, Helper::NAMEPRESENTATION,
                          Helper::createXMLField(Helper::NAMEPRESENTATION, Helper::NOT_AVAILABLE));
 }
-template <> inline std::string asWrittenAgain<Received>(std::string const& message) {
+template <>
+inline std::string asWrittenAgain<Received>(std::string const& message) {
   using Helper = JournalServiceHelper;
   return replaceElements(replaceElements(message, Helper::CONNECTEDSURNAME, ""),
                          Helper::CONNECTEDFIRSTNAME, "");
 }
-template <> inline std::string asWrittenAgain<Forwarded>(std::string const& message) {
+template <>
+inline std::string asWrittenAgain<Forwarded>(std::string const& message) {
   return asWrittenAgain<Received>(message);
 }
 

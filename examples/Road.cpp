@@ -14,13 +14,34 @@ namespace {
 
 using Helper = JournalServiceHelper;
 
+// The colleague who takes the call that changes an entry.
+constexpr char const* colleagueSurname = "Fuchs & Jäger";
+constexpr char const* colleagueEscaped = "Fuchs &amp; Jäger";
+
 std::string counted(std::size_t count, std::string const& what) {
   return std::to_string(count) + " " + what;
 }
 
-std::string codeText(Helper::MethodCode code) { return "code " + std::to_string(code); }
+std::string codeText(Helper::MethodCode code, std::string const& meaning) {
+  return "code " + std::to_string(code) + ": " + meaning;
+}
 
-std::string handleText(unsigned int handle) { return "handle " + std::to_string(handle); }
+std::string actionText(unsigned int action) {
+  switch (action) {
+  case JournalServiceObserverIfc::ENTRY_ADDED:
+    return "entry added";
+  case JournalServiceObserverIfc::ENTRY_CHANGED:
+    return "entry changed";
+  case JournalServiceObserverIfc::ENTRY_DELETED:
+    return "entry deleted";
+  default:
+    return "action " + std::to_string(action);
+  }
+}
+
+std::string handleText(unsigned int handle) {
+  return "handle " + std::to_string(handle);
+}
 
 std::size_t occurrences(std::string const& text, std::string const& word) {
   std::size_t count = 0;
@@ -29,19 +50,38 @@ std::size_t occurrences(std::string const& text, std::string const& word) {
   return count;
 }
 
-template <class Log> std::size_t callCount(Log const& log) {
+template <class Log>
+std::size_t callCount(Log const& log) {
   std::size_t count = 0;
   for (auto const& item : log)
     count += item.callInfoList.size();
   return count;
 }
 
+/// The client subscribes: from now on the service tells it of every change.
+void playSubscription(Report& report) {
+  report.section("Subscription");
+  std::string const request = Helper::reqSubscribe();
+  report.step("client", "reqSubscribe", counted(request.size(), "bytes"));
+  auto const code = Helper::getMethodFromXMLMsg(request);
+  report.step("service", "getMethodFromXMLMsg", codeText(code, "subscribe"));
+  report.check(code == Helper::SUBSCRIBE, "the service recognises the request");
+
+  std::string response;
+  Helper::addSuccessResp(response);
+  report.step("service", "addSuccessResp", counted(response.size(), "bytes"));
+  bool const accepted = Helper::isNonFailureResponse(response);
+  report.step("client", "isNonFailureResponse", accepted ? "accepted" : "refused");
+  report.check(accepted, "the client reads that it is subscribed");
+}
+
 /// The service takes its log from the store.
-template <class Kind> Service<Kind> load(std::string const& stored, Report& report) {
+template <class Kind>
+Service<Kind> load(std::string const& stored, Report& report) {
   Service<Kind> service(stored);
   report.step("service", "loads " + std::string(Kind::sample),
               counted(stored.size(), "bytes, ") + counted(service.log().size(), "entries, ") +
-                  counted(callCount(service.log()), "calls"));
+                  counted(callCount(service.log()), "calls; reading drops ") + Kind::unread);
   report.check(!service.log().empty(), "the stored log holds entries");
   report.check(service.log().size() == occurrences(stored, Helper::ENTRY_XML_BEGIN),
                "every stored entry is loaded");
@@ -51,12 +91,13 @@ template <class Kind> Service<Kind> load(std::string const& stored, Report& repo
 }
 
 /// The client asks, the service recognises the request.
-template <class Kind> std::string ask(Client<Kind> const& client, Report& report) {
+template <class Kind>
+std::string ask(Client<Kind> const& client, Report& report) {
   std::string const request = client.request();
   report.step("client", "reqGet" + std::string(Kind::name) + "CallList",
               counted(request.size(), "bytes"));
   auto const code = Helper::getMethodFromXMLMsg(request);
-  report.step("service", "getMethodFromXMLMsg", codeText(code));
+  report.step("service", "getMethodFromXMLMsg", codeText(code, "list request"));
   report.check(code == Kind::listCode, "the service recognises the request");
   return request;
 }
@@ -80,12 +121,13 @@ void answer(Service<Kind> const& service, std::string const& request, std::strin
 }
 
 /// What happens next: the party of the last entry is on the line again.
-template <class Kind> typename Kind::Call anotherCall(Service<Kind> const& service) {
+template <class Kind>
+typename Kind::Call anotherCall(Service<Kind> const& service) {
   typename Kind::Call call = service.log().back().callInfoList.front();
   call.infoKey = "noted by the service, for itself";
   call.timeDate = "2025-11-14 17:03";
   call.connectedNumber = "21";
-  call.connectedSurname = "Fuchs & Jäger";
+  call.connectedSurname = colleagueSurname;
   call.connectedFirstName = "Éva";
   if constexpr (Kind::hasPresentations) {
     call.namePresentation = CallLogEntryEvent::ALLOWED;
@@ -95,17 +137,22 @@ template <class Kind> typename Kind::Call anotherCall(Service<Kind> const& servi
 }
 
 /// An entry changes, the service notifies its observers, the client follows.
-template <class Kind> void change(Service<Kind>& service, Client<Kind>& client, Report& report) {
+template <class Kind>
+void change(Service<Kind>& service, Client<Kind>& client, Report& report) {
   std::string const message = service.addCall(service.log().size() - 1, anotherCall(service));
   report.step("service", "obsReq" + std::string(Kind::name) + "CallsUpdate",
               counted(message.size(), "bytes, ") + handleText(service.handle()));
 
+  auto const sent = Helper::createXMLField(
+      Helper::CONNECTEDSURNAME, Kind::escapesConnectedNames ? colleagueEscaped : colleagueSurname);
+  report.check(message.find(sent) != std::string::npos, "the connected name is sent");
+
   auto const code = Helper::getMethodFromXMLMsg(message);
-  report.step("client", "getMethodFromXMLMsg", codeText(code));
+  report.step("client", "getMethodFromXMLMsg", codeText(code, "one entry changed"));
   report.check(code == Kind::updateCode, "the client recognises the notification");
   report.check(client.readNotification(message), "the client takes the notification");
   report.step("client", "parseXML" + std::string(Kind::name) + "CallItem",
-              "action " + std::to_string(client.lastAction()) + ", " + handleText(client.handle()));
+              actionText(client.lastAction()) + ", " + handleText(client.handle()));
   report.check(client.lastAction() == JournalServiceObserverIfc::ENTRY_CHANGED,
                "the client reads the kind of change");
   report.check(client.handle() == service.handle(), "the client reads the new handle");
@@ -114,7 +161,8 @@ template <class Kind> void change(Service<Kind>& service, Client<Kind>& client, 
 
 /// The road of one log.
 /// @return the service's log at the end of the road
-template <class Kind> typename Kind::Log playLog(std::string const& folder, Report& report) {
+template <class Kind>
+typename Kind::Log playLog(std::string const& folder, Report& report) {
   report.section(std::string(Kind::name) + " calls");
   std::string const stored = readFile(folder + "/" + Kind::sample);
   Service<Kind> service = load<Kind>(stored, report);
@@ -143,7 +191,7 @@ void playCounter(Missed::Log const& log, Report& report) {
   report.step("service", "obsReqMissedCallsCountUpdate", counted(message.size(), "bytes"));
 
   auto const code = Helper::getMethodFromXMLMsg(message);
-  report.step("client", "getMethodFromXMLMsg", codeText(code));
+  report.step("client", "getMethodFromXMLMsg", codeText(code, "count of missed calls"));
   report.check(code == Helper::MISSEDCALLSCOUNTUPDATE, "the client recognises the counter");
   unsigned int count = 0;
   bool const found = Helper::getXMLValue(message, Helper::VALUE, count);
@@ -153,7 +201,8 @@ void playCounter(Missed::Log const& log, Report& report) {
 
 /// What the store answers about the setting; it writes "true" and "false", not "True" and "False".
 std::string storeAnswer(bool enabled) {
-  std::string message = Helper::createXMLField(Helper::CALL_LOG_ENABLED, enabled ? "true" : "false");
+  std::string message =
+      Helper::createXMLField(Helper::CALL_LOG_ENABLED, enabled ? "true" : "false");
   Helper::addSuccessResp(message);
   Helper::addXMLHeaderFooter(message, Helper::SETTINGS_SCHEMA);
   return message;
@@ -180,6 +229,7 @@ void playSetting(Report& report) {
 } // namespace
 
 void playRoad(std::string const& sampleFolder, Report& report) {
+  playSubscription(report);
   Missed::Log const missed = playLog<Missed>(sampleFolder, report);
   playLog<Dialled>(sampleFolder, report);
   playLog<Received>(sampleFolder, report);

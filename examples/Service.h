@@ -6,7 +6,8 @@
 
 #include "LogKinds.h"
 
-template <class Kind> class Service {
+template <class Kind>
+class Service {
 public:
   using Log = typename Kind::Log;
   using Call = typename Kind::Call;
@@ -41,7 +42,8 @@ public:
 
 private:
   static void markUnseen(MissedCallItem& item) { item.viewed = false; }
-  template <class Item> static void markUnseen(Item&) {} // only missed calls are marked
+  template <class Item>
+  static void markUnseen(Item&) {} // only missed calls are marked
 
   Log entries;
   unsigned int currentHandle = 0;

@@ -16,14 +16,15 @@ struct Range {
   char32_t last;
 };
 
-template <std::size_t count> bool isIn(Range const (&ranges)[count], char32_t c) {
+template <std::size_t count>
+bool isIn(Range const (&ranges)[count], char32_t c) {
   return std::any_of(std::begin(ranges), std::end(ranges),
                      [c](Range const& range) { return range.first <= c && c <= range.last; });
 }
 
 // Unicode's control characters, line separators and marks that turn the writing direction.
-constexpr Range controls[] = {{0x0000, 0x001F}, {0x007F, 0x009F}, {0x061C, 0x061C},
-                              {0x200B, 0x200F}, {0x2028, 0x202E}, {0x2060, 0x206F},
+constexpr Range controls[] = {{0x0000, 0x001F}, {0x007F, 0x009F},  {0x061C, 0x061C},
+                              {0x200B, 0x200F}, {0x2028, 0x202E},  {0x2060, 0x206F},
                               {0xFEFF, 0xFEFF}, {0xE0000, 0xE007F}};
 
 // The common marks that stand on the character before them.
@@ -89,20 +90,23 @@ std::size_t widthOf(Character const& character) {
 } // namespace
 
 Cell fitCell(std::string const& text, std::size_t most) {
-  Cell whole;
-  Cell cut; // what of it leaves a column for the ellipsis
+  Cell cell;
+  std::size_t cutSize = 0; // what of the cell leaves a column for the ellipsis
+  std::size_t cutWidth = 0;
   for (std::size_t at = 0; at < text.size();) {
     Character const character = characterAt(text, at);
     std::size_t const width = widthOf(character);
-    if (whole.width + width > most)
-      return {cut.text + ellipsis, cut.width + 1};
-    whole.text += isShown(character) ? text.substr(at, character.bytes) : replacementCharacter;
-    whole.width += width;
-    if (whole.width < most)
-      cut = whole;
+    if (cell.width + width > most)
+      return {cell.text.substr(0, cutSize) + ellipsis, cutWidth + 1};
+    cell.text += isShown(character) ? text.substr(at, character.bytes) : replacementCharacter;
+    cell.width += width;
     at += character.bytes;
+    if (cell.width < most) {
+      cutSize = cell.text.size();
+      cutWidth = cell.width;
+    }
   }
-  return whole;
+  return cell;
 }
 
 void Table::addColumn(std::string const& title, std::size_t most, Align align) {

@@ -62,15 +62,17 @@ void noteLosses(std::string const& message, std::size_t entryCount) {
               << " entries are empty or cut off\n";
 }
 
-template <class Kind> ExitCode printMessage(std::string const& path, std::string const& message) {
+template <class Kind>
+ExitCode printMessage(std::string const& path, std::string const& message) {
   typename Kind::Log log;
   unsigned int handle = 0;
   Kind::readLog(message, log, handle);
   noteLosses(message, log.size());
   if (log.empty())
     return complain(NO_LOG, path + " holds no entry");
-  std::cout << Kind::name << " calls: " << log.size() << " entries, " << message.size()
-            << " bytes, handle " << handle << "\n\n";
+  std::cout << Kind::name << " calls: " << log.size()
+            << (log.size() == 1 ? " entry, " : " entries, ") << message.size() << " bytes, handle "
+            << handle << "\n\n";
   printLog<Kind>(std::cout, log);
   return OK;
 }

@@ -57,13 +57,46 @@ constexpr std::string_view textOf(Enum value) {
   return index < enumSize<Enum> ? Texts::texts[index] : Texts::texts[Texts::fallback];
 }
 
+namespace detail {
+
+constexpr std::size_t slots = 16;
+
+/// A slot of its own for each text of an enumeration, which findTexts makes sure of.
+constexpr std::size_t slotOf(std::string_view text) {
+  auto const size = text.size();
+  auto const ending = static_cast<unsigned char>(text[size - 1]) +
+                      static_cast<std::size_t>(static_cast<unsigned char>(text[size - 2]));
+  return (ending + 3 * size) % slots;
+}
+
+/// The member whose text has a slot, or any other member.
+template <class Enum>
+struct Slots {
+  std::uint8_t members[slots] = {};
+  bool distinct = true;
+
+  constexpr Slots() {
+    bool taken[slots] = {};
+    for (std::size_t index = 0; index < enumSize<Enum>; ++index) {
+      auto const slot = slotOf(EnumTexts<Enum>::texts[index]);
+      distinct = distinct && !taken[slot];
+      taken[slot] = true;
+      members[slot] = static_cast<std::uint8_t>(index);
+    }
+  }
+};
+
+} // namespace detail
+
 /// The value whose text this is, byte for byte; enumSize when there is none.
 template <class Enum>
 constexpr std::size_t indexOf(std::string_view text) {
-  std::size_t index = 0;
-  while (index < enumSize<Enum> && EnumTexts<Enum>::texts[index] != text)
-    ++index;
-  return index;
+  constexpr detail::Slots<Enum> slots;
+  static_assert(slots.distinct, "slotOf must tell the texts of an enumeration apart");
+  if (text.size() < 2)
+    return enumSize<Enum>;
+  auto const index = slots.members[detail::slotOf(text)];
+  return EnumTexts<Enum>::texts[index] == text ? index : enumSize<Enum>;
 }
 
 /// The member whose text this is; the fallback when there is none.

@@ -93,14 +93,6 @@ constexpr std::array<Field<Record>, size> swapped(Field<Record> const (&rows)[si
   return detail::swapped(rows, first, second, std::make_index_sequence<size>());
 }
 
-/// Whether walks over rows are unrolled. Unrolled, every tag is a constant of known length and a
-/// comparison or copy becomes a few instructions; in a loop, the code is smallest.
-#ifdef __OPTIMIZE_SIZE__
-inline constexpr bool unrollRows = false;
-#else
-inline constexpr bool unrollRows = true;
-#endif
-
 namespace detail {
 template <auto const& rows, class Visit, std::size_t... index>
 JOURNAL_INLINE inline bool visitUnrolled(Visit& visit, std::index_sequence<index...>) {
@@ -109,7 +101,9 @@ JOURNAL_INLINE inline bool visitUnrolled(Visit& visit, std::index_sequence<index
 } // namespace detail
 
 /// Calls visit(row, its index) for each row in order until one gives false; tells whether none did.
-template <auto const& rows, bool unroll = unrollRows, class Visit>
+/// Unrolled, every tag is a constant of known size, and comparing or copying it takes a few
+/// instructions; in a loop, the code is smallest.
+template <auto const& rows, bool unroll = builtForSpeed, class Visit>
 JOURNAL_INLINE inline bool visitRows(Visit visit) {
   if constexpr (unroll) {
     return detail::visitUnrolled<rows>(visit, std::make_index_sequence<std::size(rows)>());

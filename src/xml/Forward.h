@@ -3,9 +3,9 @@
 #define JOURNAL_XML_FORWARD_H
 
 #include <cstddef>
-#include <cstring>
 #include <string_view>
 
+#include "xml/Bytes.h"
 #include "xml/Inline.h"
 #include "xml/Text.h"
 
@@ -24,7 +24,7 @@ public:
 
   /// Reads a tag; tells whether it stands here.
   JOURNAL_INLINE inline bool take(std::string_view tag) {
-    if (left() < tag.size() || std::memcmp(at_, tag.data(), tag.size()) != 0)
+    if (left() < tag.size() || !sameBytes(at_, tag.data(), tag.size()))
       return false;
     at_ += tag.size();
     return true;
@@ -32,12 +32,10 @@ public:
 
   /// Reads a value and the close tag behind it; missing when another tag stands there.
   JOURNAL_INLINE inline std::string_view takeValue(std::string_view close) {
-    auto const* const bracket = static_cast<char const*>(std::memchr(at_, '<', left()));
-    if (bracket == nullptr)
-      return missing;
-    std::string_view const value(at_, static_cast<std::size_t>(bracket - at_));
-    at_ = bracket;
-    return take(close) ? value : missing;
+    auto const* const value = at_;
+    at_ = findByte(at_, end_, '<');
+    auto const size = static_cast<std::size_t>(at_ - value);
+    return take(close) ? std::string_view(value, size) : missing;
   }
 
 private:

@@ -1,7 +1,18 @@
-// Marks what is compiled in place, because constants are to reach it from its caller.
+// How code is built: for speed, or for size (-Os).
 #ifndef JOURNAL_XML_INLINE_H
 #define JOURNAL_XML_INLINE_H
 
+// Marks what is compiled in place, because constants are to reach it from its caller.
 #define JOURNAL_INLINE __attribute__((always_inline))
+
+namespace journal {
+
+#ifdef __OPTIMIZE_SIZE__
+inline constexpr bool builtForSpeed = false;
+#else
+inline constexpr bool builtForSpeed = true;
+#endif
+
+} // namespace journal
 
 #endif

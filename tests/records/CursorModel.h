@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "records/Kinds.h"
+#include "records/TestedKinds.h"
 
 namespace cursor_model {
 

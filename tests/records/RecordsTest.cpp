@@ -1,7 +1,7 @@
 // The records themselves: what a fresh one holds, and how they copy.
 #include <type_traits>
 
-#include "records/Kinds.h"
+#include "records/TestedKinds.h"
 
 using kinds::Dialled;
 using kinds::Forwarded;

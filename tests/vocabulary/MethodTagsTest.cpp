@@ -59,10 +59,13 @@ TEST(MethodTags, AreOpeningTagsOfLowerCaseNames) {
 }
 
 TEST(MethodTags, NoneStandsInsideAnother) {
-  for (MethodTag const& inner : tags)
-    for (MethodTag const& outer : tags)
-      if (inner.tag != outer.tag)
-        EXPECT_EQ(std::string::npos, outer.tag->find(*inner.tag)) << *inner.tag << *outer.tag;
+  for (MethodTag const& inner : tags) {
+    for (MethodTag const& outer : tags) {
+      if (inner.tag == outer.tag)
+        continue;
+      EXPECT_EQ(std::string::npos, outer.tag->find(*inner.tag)) << *inner.tag << *outer.tag;
+    }
+  }
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The four kinds of call log, for tests that are the same for each: its records and its operations.
-#ifndef KINDS_H
-#define KINDS_H
+#ifndef TESTEDKINDS_H
+#define TESTEDKINDS_H
 
 #include <deque>
 #include <list>

@@ -1,0 +1,47 @@
+// Decoding a list response into records: the library, the oracle, the bound and the peers.
+#include "Own.h"
+#include "Samples.h"
+#include "Timing.h"
+#include "peers/ProtobufPeer.h"
+#include "peers/PugixmlPeer.h"
+#include "peers/RapidXmlPeer.h"
+#include "records/RecordComparison.h"
+
+namespace bench {
+
+namespace {
+
+/// @param decoderOf makes the decoder of a sample, outside the timing
+template <class Kind, class DecoderOf>
+void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
+  std::string const name = nameOf("decode", Kind::name, entries, who);
+  registerTiming(name, entries, [=](benchmark::State& state) {
+    Sample<Kind> const& sample = sampleOf<Kind>(entries);
+    auto decoder = decoderOf(sample);
+    timeProven(
+        state, name, [&] { return decoder.decode(); },
+        [&] { return decoder.decode() == sample.decoded; });
+    state.SetBytesProcessed(state.iterations() * static_cast<long>(sample.message.size()));
+  });
+}
+
+template <class Kind>
+void addKind(std::size_t size) {
+  using S = Sample<Kind>;
+  add<Kind>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
+  add<Kind>("handle", size, [](S const& s) { return LibraryHandleDecoder<Kind>{s.message}; });
+  add<Kind>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });
+  add<Kind>("oracle", size, [](S const& s) { return OracleDecoder<Kind>{s.message}; });
+  add<Kind>("rapidxml", size, [](S const& s) { return RapidXmlDecoder<Kind>(s.document); });
+  add<Kind>("pugixml", size, [](S const& s) { return PugixmlDecoder<Kind>(s.document); });
+  add<Kind>("protobuf", size, [](S const& s) { return ProtobufDecoder<Kind>(s.log); });
+}
+
+} // namespace
+
+void registerDecoding() {
+  for (std::size_t const size : SIZES)
+    forEachKind([size](auto kind) { addKind<decltype(kind)>(size); });
+}
+
+} // namespace bench

@@ -1,0 +1,61 @@
+// Fills records from the tree that a parser has built; the same walk for each of them.
+//
+// A Node is a pointer-like adaptor: it tests as false behind the last sibling and has is(name),
+// text(), next() and child(). The walk expects the elements in the order of writing, which is the
+// fastest way through a tree: one comparison for each. Whatever stands elsewhere is found by name.
+#ifndef BENCH_DOM_H
+#define BENCH_DOM_H
+
+#include "Fields.h"
+#include "Values.h"
+
+namespace bench::dom {
+
+template <class Node, class Record>
+void assignByName(Node node, Record& record) {
+  forEachField<Record>([&](auto const& field) {
+    if (field.read == Read::stored && node.is(field.name))
+      assign(record.*field.member, node.text());
+  });
+}
+
+/// @return the first sibling that did not stand where it is expected
+template <class Node, class Record>
+Node readInOrder(Node node, Record& record) {
+  forEachField<Record>([&](auto const& field) {
+    if (!node || !node.is(field.name))
+      return;
+    if (field.read == Read::stored)
+      assign(record.*field.member, node.text());
+    node = node.next();
+  });
+  return node;
+}
+
+template <class Node, class Call>
+void readCall(Node first, Call& call) {
+  for (Node node = readInOrder(first, call); node; node = node.next())
+    assignByName(node, call);
+}
+
+template <class Node, class Item>
+void readEntry(Node first, Item& item) {
+  for (Node node = readInOrder(first, item); node; node = node.next()) {
+    if (node.is("LogList"))
+      for (Node call = node.child(); call; call = call.next())
+        readCall(call.child(), item.callInfoList.emplace_back());
+    else
+      assignByName(node, item);
+  }
+}
+
+template <class Node, class Log>
+void readLog(Node root, Log& log) {
+  for (Node node = root.child(); node; node = node.next())
+    if (node.is("Entry"))
+      readEntry(node.child(), log.emplace_back());
+}
+
+} // namespace bench::dom
+
+#endif

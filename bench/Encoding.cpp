@@ -1,0 +1,59 @@
+// Encoding records into a list response: the library, the oracle, the bound and the peers.
+#include "Own.h"
+#include "Samples.h"
+#include "Timing.h"
+#include "peers/ProtobufPeer.h"
+#include "peers/PugixmlPeer.h"
+#include "peers/RapidXmlPeer.h"
+#include "records/RecordComparison.h"
+
+namespace bench {
+
+namespace {
+
+/// @param encoderOf makes the encoder of a sample, outside the timing
+/// @param isRight whether an encoder's result is right for a sample
+template <class Kind, class EncoderOf, class IsRight>
+void add(char const* who, std::size_t entries, EncoderOf encoderOf, IsRight isRight) {
+  std::string const name = nameOf("encode", Kind::name, entries, who);
+  registerTiming(name, entries, [=](benchmark::State& state) {
+    Sample<Kind> const& sample = sampleOf<Kind>(entries);
+    auto encoder = encoderOf(sample);
+    timeProven(
+        state, name, [&]() -> decltype(auto) { return encoder.encode(); },
+        [&] { return isRight(encoder.encode(), sample); });
+    state.SetBytesProcessed(state.iterations() * static_cast<long>(sample.message.size()));
+  });
+}
+
+template <class Kind>
+void addKind(std::size_t size) {
+  using S = Sample<Kind>;
+  auto const sameText = [](std::string const& text, S const& s) { return text == s.message; };
+  // A document of a peer's need not have the bytes of ours, but has to hold the same.
+  auto const sameDocument = [](std::string const& text, S const& s) {
+    return RapidXmlDecoder<Kind>(text).decode() == s.decoded;
+  };
+  auto const sameBinary = [](std::string const& binary, S const& s) {
+    return ProtobufDecoder<Kind>(binary).decode() == s.decoded;
+  };
+  add<Kind>(
+      "library", size, [](S const& s) { return LibraryEncoder<Kind>{s.log}; }, sameText);
+  add<Kind>(
+      "memcpy", size, [](S const& s) { return CopyOfMessage<Kind>(s.message); }, sameText);
+  add<Kind>(
+      "oracle", size, [](S const& s) { return OracleEncoder<Kind>{s.log}; }, sameText);
+  add<Kind>(
+      "pugixml", size, [](S const& s) { return PugixmlEncoder<Kind>(s.log); }, sameDocument);
+  add<Kind>(
+      "protobuf", size, [](S const& s) { return ProtobufEncoder<Kind>(s.log); }, sameBinary);
+}
+
+} // namespace
+
+void registerEncoding() {
+  for (std::size_t const size : SIZES)
+    forEachKind([size](auto kind) { addKind<decltype(kind)>(size); });
+}
+
+} // namespace bench

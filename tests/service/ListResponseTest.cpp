@@ -1,0 +1,104 @@
+// The answers to list requests.
+#include <vector>
+
+#include "records/TestedKinds.h"
+
+namespace {
+
+std::string methodOf(kinds::Missed) {
+  return "<Method><getMissedCallList></Method>";
+}
+std::string methodOf(kinds::Dialled) {
+  return "<Method><getDialledCallList></Method>";
+}
+std::string methodOf(kinds::Received) {
+  return "<Method><getReceivedCallList></Method>";
+}
+std::string methodOf(kinds::Forwarded) {
+  return "<Method><getForwardedCallList></Method>";
+}
+
+template <typename KindType>
+class ListResponse : public ::testing::Test {
+protected:
+  static std::string bodyOf(typename KindType::Item const& item) {
+    std::string body;
+    KindType::writeBody(item, body, false);
+    return body;
+  }
+};
+
+TYPED_TEST_SUITE(ListResponse, kinds::All, kinds::KindNames);
+
+TYPED_TEST(ListResponse, Empty) {
+  EXPECT_EQ(TypeParam::respond({}, 0), methodOf(TypeParam()) + "<Handle>0</Handle>");
+}
+
+TYPED_TEST(ListResponse, OneEntry) {
+  auto const item = TypeParam::full();
+  EXPECT_EQ(TypeParam::respond({item}, 7),
+            methodOf(TypeParam()) + "<Entry>" + this->bodyOf(item) + "</Entry><Handle>7</Handle>");
+}
+
+TYPED_TEST(ListResponse, EntriesInOrder) {
+  typename TypeParam::Log items = TypeParam::log();
+  items.push_front(TypeParam::sparse());
+  items.push_back({});
+  items.push_back(TypeParam::full());
+  std::string expected = methodOf(TypeParam());
+  for (auto const& item : items)
+    expected += "<Entry>" + this->bodyOf(item) + "</Entry>";
+  EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
+}
+
+TYPED_TEST(ListResponse, HandlesAreSigned) {
+  struct Row {
+    unsigned int handle;
+    char const* text;
+  };
+  for (Row const& row :
+       {Row{0, "0"}, Row{9, "9"}, Row{10, "10"}, Row{2147483647U, "2147483647"},
+        Row{2147483648U, "-2147483648"}, Row{2147483649U, "-2147483647"}, Row{4294967295U, "-1"}}) {
+    std::string const response = TypeParam::respond({}, row.handle);
+    EXPECT_EQ(response, methodOf(TypeParam()) + "<Handle>" + row.text + "</Handle>");
+    typename TypeParam::Log items;
+    unsigned int handle = 99;
+    TypeParam::readLogAndHandle(response, items, handle);
+    EXPECT_EQ(handle, row.handle);
+  }
+}
+
+TYPED_TEST(ListResponse, IsRecognisedByItsMethod) {
+  bool const missed = std::is_same_v<TypeParam, kinds::Missed>;
+  bool const dialled = std::is_same_v<TypeParam, kinds::Dialled>;
+  bool const received = std::is_same_v<TypeParam, kinds::Received>;
+  EXPECT_EQ(JournalServiceHelper::getMethodFromXMLMsg(TypeParam::respond(TypeParam::log(), 1)),
+            missed     ? 1U
+            : dialled  ? 8U
+            : received ? 11U
+                       : 14U);
+}
+
+TYPED_TEST(ListResponse, TheLogStaysAsItWas) {
+  auto const items = TypeParam::log();
+  TypeParam::respond(items, 1);
+  EXPECT_EQ(items, TypeParam::log());
+}
+
+// All kinds share one hint: the longest response so far, and 4096 characters more, is reserved.
+TYPED_TEST(ListResponse, RoomIsReservedForTheLongestResponseSoFar) {
+  typename TypeParam::Item item;
+  for (std::string::size_type const length : {20000U, 50000U, 30000U}) {
+    item.uniqueId = std::string(length, 'x');
+    std::size_t const longest = TypeParam::respond({item}, 0).size();
+    EXPECT_GT(longest, length);
+    EXPECT_GE(JournalServiceHelper::respGetMissedCallList({}, 0).capacity(), longest + 4096);
+    EXPECT_GE(JournalServiceHelper::respGetDialledCallList({}, 0).capacity(), longest + 4096);
+    EXPECT_GE(JournalServiceHelper::respGetReceivedCallList({}, 0).capacity(), longest + 4096);
+    EXPECT_GE(JournalServiceHelper::respGetForwardedCallList({}, 0).capacity(), longest + 4096);
+  }
+  // A shorter response does not lower it.
+  EXPECT_GE(TypeParam::respond({}, 0).capacity(), 50000U + 4096U);
+}
+
+} // namespace
