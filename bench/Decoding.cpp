@@ -2,9 +2,11 @@
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
+#include "peers/ExpatPeer.h"
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
+#include "peers/TinyXml2Peer.h"
 #include "records/RecordComparison.h"
 
 namespace bench {
@@ -21,7 +23,7 @@ void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
     timeProven(
         state, name, [&] { return decoder.decode(); },
         [&] { return decoder.decode() == sample.decoded; });
-    state.SetBytesProcessed(state.iterations() * static_cast<long>(sample.message.size()));
+    state.counters["message"] = static_cast<double>(sample.message.size());
   });
 }
 
@@ -34,7 +36,14 @@ void addKind(std::size_t size) {
   add<Kind>("oracle", size, [](S const& s) { return OracleDecoder<Kind>{s.message}; });
   add<Kind>("rapidxml", size, [](S const& s) { return RapidXmlDecoder<Kind>(s.document); });
   add<Kind>("pugixml", size, [](S const& s) { return PugixmlDecoder<Kind>(s.document); });
-  add<Kind>("protobuf", size, [](S const& s) { return ProtobufDecoder<Kind>(s.log); });
+  add<Kind>("expat", size, [](S const& s) { return ExpatDecoder<Kind>(s.document); });
+  add<Kind>("tinyxml2", size, [](S const& s) { return TinyXml2Decoder<Kind>(s.document); });
+  add<Kind>("protobuf", size,
+            [](S const& s) { return ProtobufDecoder<Kind, protobuf::Fresh>(s.log); });
+  add<Kind>("protobuf-arena", size,
+            [](S const& s) { return ProtobufDecoder<Kind, protobuf::OnArena>(s.log); });
+  add<Kind>("protobuf-kept", size,
+            [](S const& s) { return ProtobufDecoder<Kind, protobuf::Kept>(s.log); });
 }
 
 } // namespace

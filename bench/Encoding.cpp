@@ -1,7 +1,11 @@
 // Encoding records into a list response: the library, the oracle, the bound and the peers.
+#include <string>
+#include <string_view>
+
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
+#include "peers/LibxmlPeer.h"
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
@@ -22,7 +26,7 @@ void add(char const* who, std::size_t entries, EncoderOf encoderOf, IsRight isRi
     timeProven(
         state, name, [&]() -> decltype(auto) { return encoder.encode(); },
         [&] { return isRight(encoder.encode(), sample); });
-    state.SetBytesProcessed(state.iterations() * static_cast<long>(sample.message.size()));
+    state.counters["message"] = static_cast<double>(sample.message.size());
   });
 }
 
@@ -31,8 +35,8 @@ void addKind(std::size_t size) {
   using S = Sample<Kind>;
   auto const sameText = [](std::string const& text, S const& s) { return text == s.message; };
   // A document of a peer's need not have the bytes of ours, but has to hold the same.
-  auto const sameDocument = [](std::string const& text, S const& s) {
-    return RapidXmlDecoder<Kind>(text).decode() == s.decoded;
+  auto const sameDocument = [](std::string_view text, S const& s) {
+    return RapidXmlDecoder<Kind>(std::string(text)).decode() == s.decoded;
   };
   auto const sameBinary = [](std::string const& binary, S const& s) {
     return ProtobufDecoder<Kind>(binary).decode() == s.decoded;
@@ -46,7 +50,16 @@ void addKind(std::size_t size) {
   add<Kind>(
       "pugixml", size, [](S const& s) { return PugixmlEncoder<Kind>(s.log); }, sameDocument);
   add<Kind>(
-      "protobuf", size, [](S const& s) { return ProtobufEncoder<Kind>(s.log); }, sameBinary);
+      "libxml2", size, [](S const& s) { return LibxmlEncoder<Kind>(s.log); }, sameDocument);
+  add<Kind>(
+      "protobuf", size, [](S const& s) { return ProtobufEncoder<Kind, protobuf::Fresh>(s.log); },
+      sameBinary);
+  add<Kind>(
+      "protobuf-arena", size,
+      [](S const& s) { return ProtobufEncoder<Kind, protobuf::OnArena>(s.log); }, sameBinary);
+  add<Kind>(
+      "protobuf-kept", size,
+      [](S const& s) { return ProtobufEncoder<Kind, protobuf::Kept>(s.log); }, sameBinary);
 }
 
 } // namespace

@@ -43,8 +43,8 @@ void timeProven(benchmark::State& state, std::string const& name, Operation oper
 
 void registerDecoding();
 void registerEncoding();
-void registerSmallOperations();
 void registerDamagedTexts();
+void registerSmallOperations();
 
 } // namespace bench
 

@@ -17,6 +17,12 @@ bool keepMemory() {
          mallopt(M_TOP_PAD, 64 << 20) == 1;
 }
 
+#ifdef __clang__
+constexpr char const* COMPILER = __VERSION__;
+#else
+constexpr char const* COMPILER = "g++ " __VERSION__;
+#endif
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -24,9 +30,12 @@ int main(int argc, char** argv) {
     return 2;
   bench::registerDecoding();
   bench::registerEncoding();
+  bench::registerDamagedTexts();
+  bench::registerSmallOperations();
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv))
     return 2;
+  benchmark::AddCustomContext("compiler", COMPILER);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   return bench::anyWrong() ? 1 : 0;

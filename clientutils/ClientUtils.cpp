@@ -1,8 +1,7 @@
 // The stand-in for the product's utility library: escaping in one pass, integer texts.
 #include "ClientUtils.h"
 
-#include <cstring>
-#include <limits>
+#include <cstddef>
 #include <string_view>
 
 namespace {
@@ -16,11 +15,23 @@ constexpr Entity entities[] = {
     {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"},
 };
 
-Entity const* entityOf(char character) {
+constexpr bool isSpecial(char character) {
+  return character == '&' || character == '<' || character == '>' || character == '"' ||
+         character == '\'';
+}
+
+std::size_t firstSpecial(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && !isSpecial(text[at]))
+    ++at;
+  return at;
+}
+
+std::string_view entityOf(char special) {
   for (Entity const& entity : entities)
-    if (entity.character == character)
-      return &entity;
-  return nullptr;
+    if (entity.character == special)
+      return entity.text;
+  return {};
 }
 
 Entity const* entityAtFrontOf(std::string_view text) {
@@ -33,24 +44,29 @@ Entity const* entityAtFrontOf(std::string_view text) {
 } // namespace
 
 std::string ClientUtils::escapeXMLString(std::string const& text) {
+  auto special = firstSpecial(text);
+  if (special == text.size())
+    return text;
   std::string escaped;
-  escaped.reserve(text.size());
-  for (char const character : text) {
-    if (Entity const* const entity = entityOf(character))
-      escaped += entity->text;
-    else
-      escaped += character;
+  escaped.reserve(text.size() + 16); // some entities' worth
+  std::string_view rest = text;
+  while (special != rest.size()) {
+    escaped += rest.substr(0, special);
+    escaped += entityOf(rest[special]);
+    rest.remove_prefix(special + 1);
+    special = firstSpecial(rest);
   }
+  escaped += rest;
   return escaped;
 }
 
 std::string ClientUtils::unescapeXMLString(std::string const& text) {
-  auto ampersand = text.find('&');
-  if (ampersand == std::string::npos)
+  std::string_view rest = text;
+  auto ampersand = rest.find('&');
+  if (ampersand == std::string_view::npos)
     return text;
   std::string unescaped;
   unescaped.reserve(text.size());
-  std::string_view rest = text;
   while (ampersand != std::string_view::npos) {
     unescaped += rest.substr(0, ampersand);
     rest.remove_prefix(ampersand);
@@ -63,6 +79,4 @@ std::string ClientUtils::unescapeXMLString(std::string const& text) {
   return unescaped;
 }
 
-std::string ClientUtils::itos(int value) {
-  return std::to_string(value);
-}
+std::string ClientUtils::itos(int value) { return std::to_string(value); }

@@ -1,10 +1,13 @@
-// Protobuf: the same fields as a binary message. The message object is kept from one operation to
-// the next, as Protobuf advises: cleared, it keeps its memory.
+// Protobuf: the same fields as a binary message, in the three ways that its message objects are
+// used: made for each operation, made for each on an arena, or kept from one to the next.
 #ifndef BENCH_PEERS_PROTOBUFPEER_H
 #define BENCH_PEERS_PROTOBUFPEER_H
 
+#include <cstddef>
 #include <string>
-#include <utility>
+#include <vector>
+
+#include <google/protobuf/arena.h>
 
 #include "Kinds.h"
 #include "peers/ProtobufRecords.h"
@@ -12,6 +15,7 @@
 namespace bench {
 
 namespace protobuf {
+
 inline pb::MissedLog messageOf(Missed) {
   return {};
 }
@@ -27,27 +31,79 @@ inline pb::ForwardedLog messageOf(Forwarded) {
 
 template <class Kind>
 using Message = decltype(messageOf(Kind()));
+
+/// A new message, like any other object. Moving the texts out of it was slower than copying them.
+template <class Kind>
+class Fresh {
+public:
+  using Texts = Copied;
+
+  template <class Use>
+  auto with(Use use) {
+    Message<Kind> message;
+    return use(message);
+  }
+};
+
+/// A new message on an arena whose first block is kept and is large enough for logs of 1,000
+/// entries. Moving the texts out of it was faster than copying them.
+template <class Kind>
+class OnArena {
+public:
+  using Texts = Moved;
+
+  template <class Use>
+  auto with(Use use) {
+    google::protobuf::ArenaOptions options;
+    options.initial_block = block_.data();
+    options.initial_block_size = block_.size();
+    google::protobuf::Arena arena(options);
+    return use(*google::protobuf::Arena::CreateMessage<Message<Kind>>(&arena));
+  }
+
+private:
+  std::vector<char> block_ = std::vector<char>(4 << 20);
+};
+
+/// One message for all operations. Cleared, it keeps the objects and texts of the last log, so that
+/// a log of the same shape finds all its memory there.
+template <class Kind>
+class Kept {
+public:
+  using Texts = Copied;
+
+  template <class Use>
+  auto with(Use use) {
+    message_.Clear();
+    return use(message_);
+  }
+
+private:
+  Message<Kind> message_;
+};
+
 } // namespace protobuf
 
-template <class Kind>
+template <class Kind, template <class> class Use = protobuf::Fresh>
 class ProtobufEncoder {
 public:
   explicit ProtobufEncoder(typename Kind::Log const& log) : log_(log) {}
 
   std::string const& encode() {
-    message_.Clear();
-    protobuf::writeLog(log_, message_);
-    message_.SerializeToString(&out_);
+    use_.with([this](auto& message) {
+      protobuf::writeLog(log_, message);
+      return message.SerializeToString(&out_);
+    });
     return out_;
   }
 
 private:
   typename Kind::Log const& log_;
-  protobuf::Message<Kind> message_;
+  Use<Kind> use_;
   std::string out_;
 };
 
-template <class Kind>
+template <class Kind, template <class> class Use = protobuf::Fresh>
 class ProtobufDecoder {
 public:
   explicit ProtobufDecoder(std::string binary) : binary_(std::move(binary)) {}
@@ -55,15 +111,17 @@ public:
       : binary_(ProtobufEncoder<Kind>(log).encode()) {}
 
   typename Kind::Log decode() {
-    typename Kind::Log log;
-    message_.ParseFromString(binary_);
-    protobuf::readLog(message_, log);
-    return log;
+    return use_.with([this](auto& message) {
+      typename Kind::Log log;
+      message.ParseFromString(binary_);
+      protobuf::readLog(typename Use<Kind>::Texts(), message, log);
+      return log;
+    });
   }
 
 private:
   std::string binary_;
-  protobuf::Message<Kind> message_;
+  Use<Kind> use_;
 };
 
 } // namespace bench

@@ -2,6 +2,9 @@
 #ifndef BENCH_PEERS_PROTOBUFRECORDS_H
 #define BENCH_PEERS_PROTOBUFRECORDS_H
 
+#include <string>
+#include <utility>
+
 #include "Kinds.h"
 #include "logs.pb.h"
 
@@ -27,19 +30,37 @@ inline pb::Presentation shown(Event::_PresentationValue value) {
 // Messages into records. Passed over is what the list responses lose as well: a received or
 // forwarded call's connected names, a dialled call's name presentation.
 
-template <class Message, class Call>
-void readParty(Message const& message, Call& call) {
-  call.number = message.number();
+/// Copies each text, which leaves the message its memory.
+struct Copied {
+  static void take(std::string& field, std::string const& text) {
+    if (!text.empty())
+      field = text;
+  }
+};
+
+/// Moves each text out of the message.
+struct Moved {
+  static void take(std::string& field, std::string const& text) {
+    // The message itself is not const, and a text that is not empty is its own. Asking for it with
+    // mutable_...() would create each absent one.
+    if (!text.empty())
+      field = std::move(const_cast<std::string&>(text));
+  }
+};
+
+template <class Texts, class Message, class Call>
+void readParty(Texts texts, Message const& message, Call& call) {
+  texts.take(call.number, message.number());
   call.numberType = type(message.number_type());
-  call.connectedNumber = message.connected_number();
+  texts.take(call.connectedNumber, message.connected_number());
   call.connectedNumberType = type(message.connected_number_type());
-  call.timeDate = message.time_date();
+  texts.take(call.timeDate, message.time_date());
 }
 
-template <class Message, class Call>
-void readConnectedNames(Message const& message, Call& call) {
-  call.connectedSurname = message.connected_surname();
-  call.connectedFirstName = message.connected_first_name();
+template <class Texts, class Message, class Call>
+void readConnectedNames(Texts texts, Message const& message, Call& call) {
+  texts.take(call.connectedSurname, message.connected_surname());
+  texts.take(call.connectedFirstName, message.connected_first_name());
 }
 
 template <class Message, class Call>
@@ -49,65 +70,73 @@ void readShown(Message const& message, Call& call) {
   call.timeFormat = static_cast<Event::_TFormat>(message.time_format());
 }
 
-template <class Message, class Call>
-void readDeflected(Message const& message, Call& call) {
+template <class Texts, class Message, class Call>
+void readDeflected(Texts texts, Message const& message, Call& call) {
   call.namePresentation = shown(message.name_presentation());
   call.deflectNumberPresentation = shown(message.deflect_number_presentation());
-  call.deflectNumber = message.deflect_number();
+  texts.take(call.deflectNumber, message.deflect_number());
   call.deflectNumberType = type(message.deflect_number_type());
   call.deflectNamePresentation = shown(message.deflect_name_presentation());
-  call.deflectName = message.deflect_name();
+  texts.take(call.deflectName, message.deflect_name());
 }
 
-inline void readCall(pb::MissedCall const& message, Missed::Call& call) {
-  readParty(message, call);
-  readConnectedNames(message, call);
+template <class Texts>
+void readCall(Texts texts, pb::MissedCall const& message, Missed::Call& call) {
+  readParty(texts, message, call);
+  readConnectedNames(texts, message, call);
   readShown(message, call);
-  readDeflected(message, call);
+  readDeflected(texts, message, call);
 }
 
-inline void readCall(pb::DialledCall const& message, Dialled::Call& call) {
-  readParty(message, call);
-  readConnectedNames(message, call);
+template <class Texts>
+void readCall(Texts texts, pb::DialledCall const& message, Dialled::Call& call) {
+  readParty(texts, message, call);
+  readConnectedNames(texts, message, call);
   readShown(message, call);
-  call.resolvedNumber = message.resolved_number();
+  texts.take(call.resolvedNumber, message.resolved_number());
   call.connectedNumberPriority = message.connected_number_priority();
-  call.duration = message.duration();
+  texts.take(call.duration, message.duration());
 }
 
-inline void readCall(pb::ReceivedCall const& message, Received::Call& call) {
-  readParty(message, call);
+template <class Texts>
+void readCall(Texts texts, pb::ReceivedCall const& message, Received::Call& call) {
+  readParty(texts, message, call);
   readShown(message, call);
-  readDeflected(message, call);
-  call.duration = message.duration();
+  readDeflected(texts, message, call);
+  texts.take(call.duration, message.duration());
 }
 
-inline void readCall(pb::ForwardedCall const& message, Forwarded::Call& call) {
-  readParty(message, call);
-  call.duration = message.duration();
+template <class Texts>
+void readCall(Texts texts, pb::ForwardedCall const& message, Forwarded::Call& call) {
+  readParty(texts, message, call);
+  texts.take(call.duration, message.duration());
 }
 
-inline void readOwn(pb::MissedEntry const& message, MissedCallItem& item) {
+template <class Texts>
+void readOwn(Texts, pb::MissedEntry const& message, MissedCallItem& item) {
   item.viewed = message.viewed();
 }
-inline void readOwn(pb::DialledEntry const& message, DialledCallItem& item) {
-  item.jsGroupBy = message.js_group_by();
+template <class Texts>
+void readOwn(Texts texts, pb::DialledEntry const& message, DialledCallItem& item) {
+  texts.take(item.jsGroupBy, message.js_group_by());
 }
-inline void readOwn(pb::ReceivedEntry const&, ReceivedCallItem&) {}
-inline void readOwn(pb::ForwardedEntry const&, ForwardedCallItem&) {}
+template <class Texts>
+void readOwn(Texts, pb::ReceivedEntry const&, ReceivedCallItem&) {}
+template <class Texts>
+void readOwn(Texts, pb::ForwardedEntry const&, ForwardedCallItem&) {}
 
-template <class Message, class Log>
-void readLog(Message const& message, Log& log) {
+template <class Texts, class Message, class Log>
+void readLog(Texts texts, Message const& message, Log& log) {
   for (auto const& entry : message.entries()) {
     auto& item = log.emplace_back();
-    item.uniqueId = entry.unique_id();
-    item.entryId = entry.entry_id();
-    item.surname = entry.surname();
-    item.firstname = entry.firstname();
-    item.picture = entry.picture();
-    readOwn(entry, item);
+    texts.take(item.uniqueId, entry.unique_id());
+    texts.take(item.entryId, entry.entry_id());
+    texts.take(item.surname, entry.surname());
+    texts.take(item.firstname, entry.firstname());
+    texts.take(item.picture, entry.picture());
+    readOwn(texts, entry, item);
     for (auto const& call : entry.calls())
-      readCall(call, item.callInfoList.emplace_back());
+      readCall(texts, call, item.callInfoList.emplace_back());
   }
 }
 

@@ -5,7 +5,7 @@
 using namespace journal;
 
 std::string JournalServiceHelper::convertNumberType(NumberType::NT type) {
-  return std::string(textOf(type));
+  return std::string(std::string_view(textOf(type)));
 }
 
 NumberType::NT JournalServiceHelper::convertNumberType(std::string const& text) {
@@ -13,7 +13,7 @@ NumberType::NT JournalServiceHelper::convertNumberType(std::string const& text) 
 }
 
 std::string JournalServiceHelper::convertTimeFormat(CallLogEntryEvent::_TFormat format) {
-  return std::string(textOf(format));
+  return std::string(std::string_view(textOf(format)));
 }
 
 CallLogEntryEvent::_TFormat JournalServiceHelper::convertTimeFormat(std::string const& text) {
@@ -22,7 +22,7 @@ CallLogEntryEvent::_TFormat JournalServiceHelper::convertTimeFormat(std::string 
 
 std::string
 JournalServiceHelper::convertPresentationValue(CallLogEntryEvent::_PresentationValue presentation) {
-  return std::string(textOf(presentation));
+  return std::string(std::string_view(textOf(presentation)));
 }
 
 CallLogEntryEvent::_PresentationValue
@@ -31,7 +31,7 @@ JournalServiceHelper::convertPresentationValue(std::string const& text) {
 }
 
 std::string JournalServiceHelper::convertTargetLog(CallLogEntryEvent::_LogTarget target) {
-  return std::string(textOf(target));
+  return std::string(std::string_view(textOf(target)));
 }
 
 CallLogEntryEvent::_LogTarget JournalServiceHelper::convertTargetLog(std::string const& text) {

@@ -13,6 +13,20 @@
 
 namespace journal {
 
+/// A member's text, filled up so that it can be copied and compared as a whole.
+struct MemberText {
+  static constexpr std::size_t room = 16;
+
+  constexpr MemberText(std::string_view text) : size(text.size()) {
+    for (std::size_t at = 0; at < size; ++at)
+      chars[at] = text[at];
+  }
+  constexpr operator std::string_view() const { return {chars, size}; }
+
+  char chars[room] = {};
+  std::size_t size;
+};
+
 /// The texts of an enumeration in the order of its values, which run from 0 without a gap, and the
 /// member that stands for every other value and text.
 template <class Enum>
@@ -20,30 +34,36 @@ struct EnumTexts;
 
 template <>
 struct EnumTexts<NumberType::NT> {
-  static constexpr std::string_view texts[] = {word::NO_ICON, word::PRIVATE, word::BUSINESS1,
-                                               word::BUSINESS2, word::MOBILE};
+  static constexpr MemberText texts[] = {word::NO_ICON, word::PRIVATE, word::BUSINESS1,
+                                         word::BUSINESS2, word::MOBILE};
   static constexpr auto fallback = NumberType::NO_ICON;
 };
 
 template <>
 struct EnumTexts<CallLogEntryEvent::_TFormat> {
-  static constexpr std::string_view texts[] = {word::FORM_24, word::FORM_AM, word::FORM_PM};
+  static constexpr MemberText texts[] = {word::FORM_24, word::FORM_AM, word::FORM_PM};
   static constexpr auto fallback = CallLogEntryEvent::FORM_24;
 };
 
 template <>
 struct EnumTexts<CallLogEntryEvent::_PresentationValue> {
-  static constexpr std::string_view texts[] = {word::NOT_AVAILABLE, word::ALLOWED,
-                                               word::NOT_ALLOWED};
+  static constexpr MemberText texts[] = {word::NOT_AVAILABLE, word::ALLOWED, word::NOT_ALLOWED};
   static constexpr auto fallback = CallLogEntryEvent::NOT_AVAILABLE;
 };
 
 template <>
 struct EnumTexts<CallLogEntryEvent::_LogTarget> {
-  static constexpr std::string_view texts[] = {
+  static constexpr MemberText texts[] = {
       word::IN_ANSWERED,  word::IN_NO_ANSWER,  word::IN_BUSY, word::IN_GROUP_MISSED,
       word::OUT_ANSWERED, word::OUT_NO_ANSWER, word::OUT_BUSY};
   static constexpr auto fallback = CallLogEntryEvent::OUT_BUSY;
+};
+
+/// A flag's texts, false first; only "True" is read as true.
+template <>
+struct EnumTexts<bool> {
+  static constexpr MemberText texts[] = {word::FALSE, word::TRUE};
+  static constexpr auto fallback = false;
 };
 
 template <class Enum>
@@ -51,7 +71,7 @@ inline constexpr std::size_t enumSize = std::size(EnumTexts<Enum>::texts);
 
 /// The text of a value; the fallback's for a value outside the members, negative ones included.
 template <class Enum>
-constexpr std::string_view textOf(Enum value) {
+constexpr MemberText const& textOf(Enum value) {
   auto const index = static_cast<std::uint32_t>(value);
   using Texts = EnumTexts<Enum>;
   return index < enumSize<Enum> ? Texts::texts[index] : Texts::texts[Texts::fallback];
@@ -96,7 +116,7 @@ constexpr std::size_t indexOf(std::string_view text) {
   if (text.size() < 2)
     return enumSize<Enum>;
   auto const index = slots.members[detail::slotOf(text)];
-  return EnumTexts<Enum>::texts[index] == text ? index : enumSize<Enum>;
+  return std::string_view(EnumTexts<Enum>::texts[index]) == text ? index : enumSize<Enum>;
 }
 
 /// The member whose text this is; the fallback when there is none.

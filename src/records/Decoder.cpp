@@ -109,29 +109,6 @@ bool takeItem(Forward& forward, Item& item, InfoList<Item>& list, FieldReader& r
 
 // ---- Both
 
-template <class Item>
-void readEntries(std::string_view text, std::deque<Item>& items) {
-  FieldReader reader;
-  Pieces entries(text, element<word::ENTRY>);
-  while (entries.enter()) {
-    auto& item = items.emplace_back();
-    Forward forward(entries.rest());
-    InfoList<Item> list;
-    if (takeItem(forward, item, list, reader) && forward.take(element<word::ENTRY>.close)) {
-      replaceList(item, list);
-      entries.goOnWith(forward.rest());
-      continue;
-    }
-    auto const entry = entries.leave();
-    if (isMissing(entry) || entry.empty())
-      items.pop_back();
-    else
-      readItem(entry, item, reader);
-    if (isMissing(entry))
-      return;
-  }
-}
-
 } // namespace
 
 template <class Item>
@@ -161,33 +138,56 @@ void readItem(std::string_view text, Item& item) {
 }
 
 template <class Item>
-void readItems(std::string_view text, std::deque<Item>& items) {
+std::string_view readItems(std::string_view text, std::deque<Item>& items) {
   items.clear();
-  readEntries(text, items);
+  FieldReader reader;
+  auto unknown = text;
+  Pieces entries(text, element<word::ENTRY>);
+  for (auto before = entries.rest(); entries.enter(); before = entries.rest()) {
+    auto& item = items.emplace_back();
+    Forward forward(entries.rest());
+    InfoList<Item> list;
+    if (takeItem(forward, item, list, reader) && forward.take(element<word::ENTRY>.close)) {
+      replaceList(item, list);
+      auto const skipped = before.substr(0, before.size() - entries.rest().size());
+      if (unknown.data() == before.data() && !holds<word::HANDLE>(skipped))
+        unknown = forward.rest();
+      entries.goOnWith(forward.rest());
+      continue;
+    }
+    auto const entry = entries.leave();
+    if (isMissing(entry) || entry.empty())
+      items.pop_back();
+    else
+      readItem(entry, item, reader);
+    if (isMissing(entry))
+      break;
+  }
+  return unknown;
 }
 
 template void readInfo<MissedCallItem>(std::string_view, Kind<MissedCallItem>::Info&);
 template bool readInfoList<MissedCallItem>(std::string_view,
                                            std::list<Kind<MissedCallItem>::Info>&);
 template void readItem(std::string_view, MissedCallItem&);
-template void readItems(std::string_view, std::deque<MissedCallItem>&);
+template std::string_view readItems(std::string_view, std::deque<MissedCallItem>&);
 
 template void readInfo<DialledCallItem>(std::string_view, Kind<DialledCallItem>::Info&);
 template bool readInfoList<DialledCallItem>(std::string_view,
                                             std::list<Kind<DialledCallItem>::Info>&);
 template void readItem(std::string_view, DialledCallItem&);
-template void readItems(std::string_view, std::deque<DialledCallItem>&);
+template std::string_view readItems(std::string_view, std::deque<DialledCallItem>&);
 
 template void readInfo<ReceivedCallItem>(std::string_view, Kind<ReceivedCallItem>::Info&);
 template bool readInfoList<ReceivedCallItem>(std::string_view,
                                              std::list<Kind<ReceivedCallItem>::Info>&);
 template void readItem(std::string_view, ReceivedCallItem&);
-template void readItems(std::string_view, std::deque<ReceivedCallItem>&);
+template std::string_view readItems(std::string_view, std::deque<ReceivedCallItem>&);
 
 template void readInfo<ForwardedCallItem>(std::string_view, Kind<ForwardedCallItem>::Info&);
 template bool readInfoList<ForwardedCallItem>(std::string_view,
                                               std::list<Kind<ForwardedCallItem>::Info>&);
 template void readItem(std::string_view, ForwardedCallItem&);
-template void readItems(std::string_view, std::deque<ForwardedCallItem>&);
+template std::string_view readItems(std::string_view, std::deque<ForwardedCallItem>&);
 
 } // namespace journal

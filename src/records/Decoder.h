@@ -24,8 +24,10 @@ template <class Item>
 void readItem(std::string_view text, Item& item);
 
 /// Reads every entry of a message; the items are emptied first.
+/// @return where the message's first Handle can stand: the message without as much of its front as
+///         was seen to hold none
 template <class Item>
-void readItems(std::string_view text, std::deque<Item>& items);
+std::string_view readItems(std::string_view text, std::deque<Item>& items);
 
 } // namespace journal
 

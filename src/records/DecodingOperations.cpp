@@ -13,9 +13,8 @@ std::string_view viewOfText(std::string const& text) {
   return viewOf(text.c_str());
 }
 
-unsigned int handleOf(std::string const& xml) {
-  auto const text = unescaped(readFirst<word::HANDLE>(viewOfText(xml)));
-  return static_cast<unsigned int>(numberAtFrontOf(text));
+unsigned int handleIn(std::string_view text) {
+  return static_cast<unsigned int>(numberAtFrontOf(unescaped(readFirst<word::HANDLE>(text))));
 }
 
 } // namespace
@@ -116,8 +115,7 @@ bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
 bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
                                                   std::deque<MissedCallItem>& items,
                                                   unsigned int& handle) {
-  parseXMLMissedCallList(xml, items);
-  handle = handleOf(xml);
+  handle = handleIn(readItems(viewOfText(xml), items));
   return true;
 }
 
@@ -130,8 +128,7 @@ bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
 bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
                                                    std::deque<DialledCallItem>& items,
                                                    unsigned int& handle) {
-  parseXMLDialledCallList(xml, items);
-  handle = handleOf(xml);
+  handle = handleIn(readItems(viewOfText(xml), items));
   return true;
 }
 
@@ -144,8 +141,7 @@ bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
 bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
                                                     std::deque<ReceivedCallItem>& items,
                                                     unsigned int& handle) {
-  parseXMLReceivedCallList(xml, items);
-  handle = handleOf(xml);
+  handle = handleIn(readItems(viewOfText(xml), items));
   return true;
 }
 
@@ -158,7 +154,6 @@ bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
 bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
                                                      std::deque<ForwardedCallItem>& items,
                                                      unsigned int& handle) {
-  parseXMLForwardedCallList(xml, items);
-  handle = handleOf(xml);
+  handle = handleIn(readItems(viewOfText(xml), items));
   return true;
 }

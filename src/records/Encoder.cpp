@@ -3,11 +3,13 @@
 
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 #include "ClientUtils.h"
 #include "convert/EnumTexts.h"
 #include "records/Kinds.h"
+#include "xml/Appender.h"
 #include "xml/Building.h"
 
 namespace journal {
@@ -29,41 +31,77 @@ constexpr std::size_t sizeOfTags() {
   return size;
 }
 
+/// What one message's encoding keeps.
+class Writer {
+public:
+  explicit Writer(std::string& out, std::size_t ahead = 0) : appender(out, ahead) {}
+
+  /// What the utility library makes of an empty text: an empty one, if it is like others, but it is
+  /// the library's to say. Many names are empty, so it is asked once.
+  std::string_view escapedNothing() {
+    if (!asked_) {
+      nothing_ = ClientUtils::escapeXMLString(nothing_);
+      asked_ = true;
+    }
+    return nothing_;
+  }
+
+  Appender appender;
+
+private:
+  std::string nothing_;
+  bool asked_ = false;
+};
+
 /// The texts of a record's fields in the order of its rows: views into the record, the vocabulary
 /// and the escaped texts, which are kept here.
 template <auto const& rows, class Record>
 class FieldTexts {
 public:
-  explicit FieldTexts(Record const& record) {
+  FieldTexts(Record const& record, Writer& writer) {
     auto nextEscaped = escaped_.begin();
     visitRows<rows>([&](Field<Record> const& row, std::size_t index) JOURNAL_INLINE {
-      if (row.writing == Writing::escaped)
-        texts_[index] = *nextEscaped++ = ClientUtils::escapeXMLString(record.*row.member.text);
-      else
-        texts_[index] = textOfField(row, record);
+      texts_[index] = textOfField(row, record);
+      if (row.writing == Writing::escaped) {
+        if (texts_[index].empty())
+          texts_[index] = writer.escapedNothing();
+        else
+          texts_[index] = *nextEscaped++ = ClientUtils::escapeXMLString(record.*row.member.text);
+      }
       size_ += texts_[index].size();
       return true;
     });
   }
 
   /// The most that the elements can take: all tags and all texts.
-  std::size_t bound() const { return sizeOfTags<rows>() + size_; }
+  std::size_t bound() const { return sizeOfTags<rows>() + size_ + MemberText::room; }
 
   /// Writes the elements, empty ones left out, and returns where they end.
-  char* put(char* at) const {
+  JOURNAL_INLINE inline char* put(char* at) const {
     visitRows<rows>([&](Field<Record> const& row, std::size_t index) JOURNAL_INLINE {
-      if (auto const text = texts_[index]; !text.empty())
-        at = putElement(at, row.element, text);
+      auto const text = texts_[index];
+      if (text.empty())
+        return true;
+      at = journal::put(at, row.element.begin);
+      if (row.content == Content::text) {
+        at = journal::put(at, text);
+      } else {
+        // As a whole, whatever its size: that takes two instructions.
+        std::memcpy(at, text.data(), MemberText::room);
+        at += text.size();
+      }
+      at = journal::put(at, row.element.close);
       return true;
     });
     return at;
   }
 
 private:
-  static std::string_view textOfField(Field<Record> const& row, Record const& record) {
+  JOURNAL_INLINE static inline std::string_view textOfField(Field<Record> const& row,
+                                                            Record const& record) {
     switch (row.content) {
     case Content::flag:
-      return record.*row.member.flag ? word::TRUE : word::FALSE;
+      return textOf(record.*row.member.flag);
     case Content::numberType:
       return textOf(record.*row.member.numberType);
     case Content::targetLog:
@@ -83,42 +121,69 @@ private:
   std::size_t size_ = 0;
 };
 
-template <class Info, auto const& rows>
-void appendDetail(Info const& info, std::string& out) {
-  constexpr auto item = element<word::ITEM>;
-  FieldTexts<rows, Info> const fields(info);
-  appendWithin(out, item.begin.size() + fields.bound() + item.close.size(),
-               [&](char* at) { return put(fields.put(put(at, item.begin)), item.close); });
+/// Appends a record's elements between two texts.
+template <auto const& rows, class Record>
+void appendFields(std::string_view before, Record const& record, std::string_view behind,
+                  Writer& writer) {
+  FieldTexts<rows, Record> const fields(record, writer);
+  writer.appender.append(before.size() + fields.bound() + behind.size(),
+                         [&](char* at) { return put(fields.put(put(at, before)), behind); });
+}
+
+template <class Item>
+void appendInfoList(Item const& item, Writer& writer) {
+  writer.appender.append(element<word::LOGLIST>.begin);
+  for (auto const& info : item.callInfoList)
+    appendFields<Kind<Item>::detail>(element<word::ITEM>.begin, info, element<word::ITEM>.close,
+                                     writer);
+  writer.appender.append(element<word::LOGLIST>.close);
+}
+
+template <class Item>
+void appendItemBody(Item const& item, Writer& writer) {
+  appendFields<Kind<Item>::entry>({}, item, {}, writer);
+  appendInfoList(item, writer);
 }
 
 } // namespace
 
 template <class Item>
 void appendInfoList(Item const& item, std::string& out) {
-  out.append(element<word::LOGLIST>.begin);
-  for (auto const& info : item.callInfoList)
-    appendDetail<typename Kind<Item>::Info, Kind<Item>::detail>(info, out);
-  out.append(element<word::LOGLIST>.close);
+  Writer writer(out);
+  appendInfoList(item, writer);
 }
 
 template <class Item>
 void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly) {
-  if (uniqueIdOnly) {
-    if (!item.uniqueId.empty())
-      append(out, {element<word::UNIQUEID>.begin, item.uniqueId, element<word::UNIQUEID>.close});
-    return;
+  if (!uniqueIdOnly) {
+    Writer writer(out);
+    appendItemBody(item, writer);
+  } else if (!item.uniqueId.empty()) {
+    append(out, {element<word::UNIQUEID>.begin, item.uniqueId, element<word::UNIQUEID>.close});
   }
-  FieldTexts<Kind<Item>::entry, Item> const fields(item);
-  appendWithin(out, fields.bound(), [&](char* at) { return fields.put(at); });
-  appendInfoList(item, out);
 }
 
+template <class Item>
+void appendEntries(std::deque<Item> const& items, std::string& out) {
+  constexpr std::size_t ahead = 2048; // less than what an answer reserves beyond its expected size
+  Writer writer(out, ahead);
+  for (auto const& item : items) {
+    writer.appender.append(element<word::ENTRY>.begin);
+    appendItemBody(item, writer);
+    writer.appender.append(element<word::ENTRY>.close);
+  }
+}
+
+template void appendEntries(std::deque<MissedCallItem> const&, std::string&);
 template void appendInfoList(MissedCallItem const&, std::string&);
 template void appendItemBody(MissedCallItem const&, std::string&, bool);
+template void appendEntries(std::deque<DialledCallItem> const&, std::string&);
 template void appendInfoList(DialledCallItem const&, std::string&);
 template void appendItemBody(DialledCallItem const&, std::string&, bool);
+template void appendEntries(std::deque<ReceivedCallItem> const&, std::string&);
 template void appendInfoList(ReceivedCallItem const&, std::string&);
 template void appendItemBody(ReceivedCallItem const&, std::string&, bool);
+template void appendEntries(std::deque<ForwardedCallItem> const&, std::string&);
 template void appendInfoList(ForwardedCallItem const&, std::string&);
 template void appendItemBody(ForwardedCallItem const&, std::string&, bool);
 

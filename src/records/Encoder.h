@@ -2,6 +2,7 @@
 #ifndef JOURNAL_RECORDS_ENCODER_H
 #define JOURNAL_RECORDS_ENCODER_H
 
+#include <deque>
 #include <string>
 
 #include "CallLogItems.h"
@@ -16,6 +17,10 @@ void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly);
 /// Appends an entry's LogList, one Item per detail record.
 template <class Item>
 void appendInfoList(Item const& item, std::string& out);
+
+/// Appends a log: one Entry per item.
+template <class Item>
+void appendEntries(std::deque<Item> const& items, std::string& out);
 
 } // namespace journal
 

@@ -6,6 +6,10 @@
 namespace journal {
 
 std::string FieldReader::unescape(std::string_view raw) {
+  // A string holds so many characters in itself, in the libraries that we know.
+  constexpr std::size_t fitsInside = 15;
+  if (raw.size() <= fitsInside)
+    return ClientUtils::unescapeXMLString(std::string(raw));
   scratch_.assign(raw.data(), raw.size());
   return ClientUtils::unescapeXMLString(scratch_);
 }

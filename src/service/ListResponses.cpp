@@ -32,15 +32,10 @@ void raiseSizeHint(std::size_t size) {
 
 template <class Item>
 std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
-  constexpr auto entry = element<word::ENTRY>;
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
   append(message, {element<word::METHOD>.begin, Kind<Item>::method, element<word::METHOD>.close});
-  for (auto const& item : items) {
-    message.append(entry.begin);
-    appendItemBody(item, message, false);
-    message.append(entry.close);
-  }
+  appendEntries(items, message);
   append(message,
          {element<word::HANDLE>.begin, ClientUtils::itos(static_cast<std::int32_t>(handle)),
           element<word::HANDLE>.close});

@@ -44,6 +44,12 @@ std::string_view readFirst(std::string_view text) {
   return Cursor(text).read(element<name>.begin, element<name>.close);
 }
 
+/// Whether a text holds the begin tag of an element called `name`.
+template <std::string_view const& name>
+bool holds(std::string_view text) {
+  return text.find(element<name>.begin) != std::string_view::npos;
+}
+
 /// Cuts a text into pieces: the inside of one element after the other, each ending at its first
 /// close tag.
 class Pieces {

@@ -1,4 +1,5 @@
 // Enumerations to their texts and back, with every kind of value and text that is no member's.
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <limits>

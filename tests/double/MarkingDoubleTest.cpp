@@ -39,6 +39,21 @@ protected:
 
 TYPED_TEST_SUITE(Marked, kinds::All, kinds::KindNames);
 
+// Once asked for, a member's text gives the same again; other texts are asked for each time.
+TYPED_TEST(Marked, EqualTextsReadTwice) {
+  std::string const item = "<Item><NumberType>MOBILE</NumberType></Item>"
+                           "<Item><NumberType>[MOBILE]</NumberType></Item>"
+                           "<Item><NumberType>[PRIVATE]</NumberType></Item>";
+  typename TypeParam::InfoList list;
+  TypeParam::readCalls(("<LogList>" + item + item + "</LogList>").c_str(), list);
+  std::vector<NumberType::NT> types;
+  for (auto const& call : list)
+    types.push_back(call.numberType);
+  EXPECT_EQ(types, (std::vector<NumberType::NT>{NumberType::NO_ICON, NumberType::MOBILE,
+                                                NumberType::PRIVATE, NumberType::NO_ICON,
+                                                NumberType::MOBILE, NumberType::PRIVATE}));
+}
+
 // One element present: its text is unescaped, an enumeration's too, so that it names no member. The
 // texts of the missing elements stay empty.
 TYPED_TEST(Marked, ElementsOfACallRead) {
@@ -63,6 +78,19 @@ TYPED_TEST(Marked, EveryMemberOfAnEnumerationReadIsNone) {
       typename TypeParam::Info call;
       TypeParam::readCall(tagged(element.name, member).c_str(), call);
       EXPECT_EQ(call, typename TypeParam::Info()) << element.name << " " << member;
+    }
+  }
+}
+
+// A member is what the unescaped text names. A flag is read from the text as it is.
+TYPED_TEST(Marked, EveryMemberIsReadFromTheUnescapedText) {
+  for (auto const& element : cursor_model::callOrder(TypeParam())) {
+    if (element.sort == Sort::PRESENTATION_BETWEEN_BEGINS)
+      continue;
+    for (std::string const& member : cursor_model::membersOf(element.sort)) {
+      typename TypeParam::Info call;
+      TypeParam::readCall(tagged(element.name, "[" + member + "]").c_str(), call);
+      this->expectField(call, element.name, element.sort == Sort::FLAG ? "False" : member);
     }
   }
 }
@@ -124,6 +152,8 @@ TYPED_TEST(Marked, AHandleRead) {
   unsigned int handle = 99;
   TypeParam::readLogAndHandle("<Handle>42</Handle>", log, handle);
   EXPECT_EQ(handle, 0U);
+  TypeParam::readLogAndHandle("<Handle>[42]</Handle>", log, handle);
+  EXPECT_EQ(handle, 42U);
 }
 
 TYPED_TEST(Marked, AHandleWritten) {
@@ -302,6 +332,18 @@ TEST(MarkedMessage, ValuesReadFromAMessage) {
   unsigned int number = 99;
   EXPECT_TRUE(Helper::getXMLValue("<Value>42</Value>", "Value", number));
   EXPECT_EQ(number, 0U);
+  EXPECT_TRUE(Helper::getXMLValue("<NumberType>[MOBILE]</NumberType>", "NumberType", type));
+  EXPECT_EQ(type, NumberType::MOBILE);
+  EXPECT_TRUE(Helper::getXMLValue("<Viewed>[True]</Viewed>", "Viewed", flag));
+  EXPECT_TRUE(flag);
+  EXPECT_TRUE(Helper::getXMLValue("<Value>[42]</Value>", "Value", number));
+  EXPECT_EQ(number, 42U);
+  std::string value = "before";
+  std::string message = "<Entry><UniqueId>[]</UniqueId></Entry>";
+  EXPECT_FALSE(Helper::parseLastUniqueId(message, value));
+  EXPECT_EQ(value, "before");
+  EXPECT_TRUE(Helper::parseXMLEnabledStateItem("<CallLogEnabled>[true]</CallLogEnabled>"));
+  EXPECT_TRUE(Helper::parseXMLEnabledStateItem("<CallLogEnabled>[]</CallLogEnabled>"));
   EXPECT_FALSE(Helper::parseXMLEnabledStateItem("<CallLogEnabled>true</CallLogEnabled>"));
   EXPECT_FALSE(Helper::parseXMLEnabledStateItem("<CallLogEnabled></CallLogEnabled>"));
   EXPECT_TRUE(Helper::parseXMLEnabledStateItem("<CallLogEnabled>"));
@@ -311,6 +353,8 @@ TEST(MarkedMessage, RawReading) {
   bool flag = false;
   Helper::getXMLValue("<Viewed>True</Viewed>", "<Viewed>", "</Viewed>", flag);
   EXPECT_TRUE(flag);
+  Helper::getXMLValue("<Viewed>[True]</Viewed>", "<Viewed>", "</Viewed>", flag);
+  EXPECT_FALSE(flag);
   std::string text = "<Number>1</Number>";
   std::string value;
   EXPECT_TRUE(Helper::getAndRemoveXMLValue(text, "Number", value));

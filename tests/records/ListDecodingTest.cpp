@@ -186,6 +186,15 @@ TYPED_TEST(ListDecoding, Handles) {
       {"<Entry><Handle>42</Handle></Entry><Handle>43</Handle>", 42},
       {"<Entry><Picture><Handle>42</Handle></Picture></Entry>", 42},
       {"<Entry>unclosed<Handle>42</Handle>", 42},
+      {"<Entry><LogList></LogList></Entry><Handle>42</Handle>"
+       "<Entry><LogList></LogList></Entry><Handle>43</Handle>",
+       42},
+      {"<Handle>42</Handle><Entry><LogList></LogList></Entry><Handle>43</Handle>", 42},
+      {"<Entry><LogList></LogList></Entry><Entry>x<Handle>42</Handle></Entry>"
+       "<Entry><LogList></LogList></Entry><Handle>43</Handle>",
+       42},
+      {"<Handle>4<Entry><LogList></LogList></Entry>2</Handle><Handle>43</Handle>", 4},
+      {"<Entry><LogList></LogList></Entry></Handle><Handle>43</Handle>", 43},
       {"<Entry><Handle>4</Entry><Entry>2</Handle></Entry>", 4}};
   for (auto const& row : rows)
     EXPECT_EQ(this->handleIn(row.text), row.handle) << row.text;
@@ -221,6 +230,25 @@ TYPED_TEST(ListDecoding, AResponseComesBack) {
                                           items, handle));
   EXPECT_EQ(items, TypeParam::decodedLog());
   EXPECT_EQ(handle, TypeParam::HANDLE);
+}
+
+// An entry is read to its end, behind its list too.
+TYPED_TEST(ListDecoding, ElementsBehindTheList) {
+  std::string const list = "<LogList><Item><Number>1</Number></Item></LogList>";
+  typename TypeParam::Log items;
+  TypeParam::readLog("<Entry>" + list +
+                         "<UniqueId>1</UniqueId></Entry><Entry><EntryId>2</EntryId>" + list +
+                         "<Surname>2</Surname>" + list + "</Entry><Entry>" + list +
+                         "\n</Entry><Entry>" + list + "<Entry></Entry>",
+                     items);
+  typename TypeParam::Item bare;
+  bare.callInfoList.emplace_back();
+  bare.callInfoList.back().number = "1";
+  typename TypeParam::Log expected(4, bare);
+  expected[0].uniqueId = "1";
+  expected[1].entryId = "2";
+  expected[1].surname = "2";
+  EXPECT_EQ(items, expected);
 }
 
 // Entries with elements missing, swapped or apart, between entries in the writer's order.

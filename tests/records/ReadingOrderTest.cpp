@@ -33,6 +33,13 @@ protected:
     EXPECT_EQ(item.callInfoList.size(), listed ? 1U : 2U) << text;
   }
 
+  // Lists of one call, in the writer's order and not.
+  static std::vector<std::string> lists() {
+    return {"<LogList><Item>x</Item></LogList>",
+            "<LogList><Item>" + joined(callOrder(KindType())) + "</Item></LogList>",
+            "<LogList><Item><Number>1</Number></Item></LogList>"};
+  }
+
   static std::string joined(Order const& order, std::string const& between = "") {
     std::string text;
     for (Element const& element : order)
@@ -141,38 +148,45 @@ TYPED_TEST(ReadingOrder, EachElementOfAnEntryAlone) {
     this->expectEntry(sample(element));
 }
 
+// The element may also stand behind the list, which ends a text in the writer's order.
 TYPED_TEST(ReadingOrder, EachElementOfAnEntryMissing) {
-  std::string const list = "<LogList><Item>x</Item></LogList>";
   Order const order = entryOrder(TypeParam());
-  this->expectEntry(this->joined(order) + list);
-  this->expectEntry(list + this->joined(order));
-  for (std::size_t missing = 0; missing < order.size(); ++missing) {
-    Order rest = order;
-    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
-    this->expectEntry(this->joined(rest) + list);
-    this->expectEntry(this->joined(rest, "\n") + list);
+  for (std::string const& list : this->lists()) {
+    this->expectEntry(this->joined(order) + list);
+    this->expectEntry(list + this->joined(order));
+    this->expectEntry(this->joined(order) + list + this->joined(order));
+    for (std::size_t missing = 0; missing < order.size(); ++missing) {
+      Order rest = order;
+      rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
+      this->expectEntry(this->joined(rest) + list);
+      this->expectEntry(this->joined(rest, "\n") + list);
+      this->expectEntry(this->joined(rest) + list + sample(order[missing]));
+    }
   }
 }
 
 TYPED_TEST(ReadingOrder, AdjacentElementsOfAnEntrySwapped) {
   Order const order = entryOrder(TypeParam());
-  for (std::size_t at = 0; at + 1 < order.size(); ++at) {
-    Order swapped = order;
-    std::swap(swapped[at], swapped[at + 1]);
-    this->expectEntry(this->joined(swapped) + "<LogList><Item>x</Item></LogList>");
+  for (std::string const& list : this->lists()) {
+    for (std::size_t at = 0; at + 1 < order.size(); ++at) {
+      Order swapped = order;
+      std::swap(swapped[at], swapped[at + 1]);
+      this->expectEntry(this->joined(swapped) + list);
+    }
   }
 }
 
 TYPED_TEST(ReadingOrder, OneElementOfAnEntryInsideAnother) {
-  std::string const list = "<LogList><Item>x</Item></LogList>";
   Order const order = entryOrder(TypeParam());
-  for (std::size_t outer = 0; outer < order.size(); ++outer) {
-    Order const front(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(outer));
-    for (std::string const& before : {std::string(), this->joined(front), std::string(" ")}) {
-      this->expectEntry(before + tagged(order[outer].name, list));
-      for (Element const& inner : order) {
-        this->expectEntry(before + tagged(order[outer].name, sample(inner)));
-        this->expectEntry(before + tagged(order[outer].name, sample(inner)) + list);
+  for (std::string const& list : this->lists()) {
+    for (std::size_t outer = 0; outer < order.size(); ++outer) {
+      Order const front(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(outer));
+      for (std::string const& before : {std::string(), this->joined(front), std::string(" ")}) {
+        this->expectEntry(before + tagged(order[outer].name, list));
+        for (Element const& inner : order) {
+          this->expectEntry(before + tagged(order[outer].name, sample(inner)));
+          this->expectEntry(before + tagged(order[outer].name, sample(inner)) + list);
+        }
       }
     }
   }

@@ -1,6 +1,7 @@
 // Single elements, read at a cursor: the search, the value and the cursor that comes back.
 #include <cstddef>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 // The unique id of a message's first entry, and the NUL that stays in the message.
+#include <cstddef>
 #include <cstring>
 #include <string>
 

@@ -1,4 +1,5 @@
 // Texts, flags and number types read from a whole message by element name.
+#include <cstddef>
 #include <string>
 
 #include <gtest/gtest.h>

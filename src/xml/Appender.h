@@ -1,0 +1,56 @@
+// Writes behind a text, in room that is made for a whole record at once.
+#ifndef JOURNAL_XML_APPENDER_H
+#define JOURNAL_XML_APPENDER_H
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "xml/Inline.h"
+
+namespace journal {
+
+/// Copies a text to `at`, which has room for it, and returns where it ends.
+JOURNAL_INLINE inline char* put(char* at, std::string_view text) {
+  std::memcpy(at, text.data(), text.size());
+  return at + text.size();
+}
+
+/// While one lives, the text is longer than what it holds; only the appender may use it.
+class Appender {
+public:
+  /// @param out keeps what it holds
+  /// @param ahead how much room to make at the least, so that it has to be made less often
+  explicit Appender(std::string& out, std::size_t ahead = 0)
+      : out_(out), ahead_(ahead), size_(out.size()) {}
+  Appender(Appender const&) = delete;
+  Appender& operator=(Appender const&) = delete;
+
+  /// Gives back the room that nothing was written to.
+  ~Appender() { out_.resize(size_); }
+
+  /// Appends what `write` puts: it gets a place with room for `bound` characters and returns where
+  /// it ended. It must not throw.
+  template <class Write>
+  void append(std::size_t bound, Write write) {
+    if (out_.size() - size_ < bound)
+      out_.resize(size_ + std::max(bound, ahead_));
+    auto const* const end = write(&out_[size_]);
+    size_ = static_cast<std::size_t>(end - out_.data());
+  }
+
+  void append(std::string_view text) {
+    append(text.size(), [text](char* at) { return put(at, text); });
+  }
+
+private:
+  std::string& out_;
+  std::size_t ahead_;
+  std::size_t size_;
+};
+
+} // namespace journal
+
+#endif

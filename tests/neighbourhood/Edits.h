@@ -1,0 +1,49 @@
+// The texts around a text: its tokens with one of them inserted, deleted, replaced, exchanged with
+// another or repeated. The edits of a text are numbered, so that they can be walked in any order.
+#ifndef TESTS_NEIGHBOURHOOD_EDITS_H
+#define TESTS_NEIGHBOURHOOD_EDITS_H
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace neighbourhood {
+
+using Tokens = std::vector<std::string_view>;
+
+class Edits {
+public:
+  /// @param alphabet what is inserted and what replaces; has to outlive this and what is edited
+  explicit Edits(std::vector<std::string> const& alphabet)
+      : alphabet_(alphabet.begin(), alphabet.end()) {}
+
+  /// How many edits a text of so many tokens has.
+  std::uint64_t count(std::uint64_t tokens) const;
+
+  /// How many pairs of edits, one made after the other.
+  std::uint64_t countPairs(std::uint64_t tokens) const;
+
+  /// Makes one edit, or a pair of edits.
+  /// @param[in,out] touched what was taken out and put in, and what stands beside it, is appended
+  void apply(std::uint64_t edit, Tokens& tokens, std::string& touched) const;
+  void applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) const;
+
+private:
+  struct Counts {
+    std::uint64_t insert, replace, erase, swap, repeat;
+  };
+  Counts countsOf(std::uint64_t tokens) const;
+
+  Tokens alphabet_;
+};
+
+/// Cuts a text into its tags and what stands between them.
+std::vector<std::string> tokensOf(std::string_view text);
+
+/// The same with each element that holds no other as one token.
+std::vector<std::string> elementsOf(std::string_view text);
+
+} // namespace neighbourhood
+
+#endif

@@ -1,0 +1,161 @@
+// The comparison of the encoders of entries, of the service's messages and of the requests.
+#include <limits>
+#include <set>
+
+#include "neighbourhood/Comparison.h"
+#include "neighbourhood/KindOperations.h"
+#include "neighbourhood/RecordFields.h"
+#include "neighbourhood/Shown.h"
+#include "reference/Reference.h"
+
+namespace comparison {
+
+std::string quoted(std::string const& text) {
+  static char const digits[] = "0123456789abcdef";
+  constexpr std::size_t longest = 4000;
+  std::string all = "\"";
+  for (char const c : text.substr(0, longest)) {
+    auto const byte = static_cast<unsigned char>(c);
+    if (byte >= 0x20 && byte < 0x7f && c != '"' && c != '\\')
+      all += c;
+    else
+      all.append("\\x").append(1, digits[byte / 16]).append(1, digits[byte % 16]);
+  }
+  return all + (text.size() > longest ? "\"..." : "\"");
+}
+
+namespace {
+
+template <class Item>
+class Encoders {
+  using Library = KindOperations<Item, JournalServiceHelper>;
+  using Oracle = KindOperations<Item, Reference>;
+
+public:
+  static Difference compare(Item const& item, Notice const& notice) {
+    auto const copy = item;
+    for (bool const uniqueIdOnly : {false, true})
+      if (auto found = told("body", item, body<Library>(item, uniqueIdOnly),
+                            body<Oracle>(item, uniqueIdOnly));
+          !found.empty())
+        return found;
+    if (auto found = told("calls", item, calls<Library>(item), calls<Oracle>(item)); !found.empty())
+      return found;
+    if (auto found =
+            told("notification", item, notify<Library>(item, notice), notify<Oracle>(item, notice));
+        !found.empty())
+      return found;
+    for (std::size_t const count : {0U, 1U, 2U}) {
+      std::deque<Item> const items(count, item);
+      if (auto found = told("log", item, Library::respond(items, notice.handle),
+                            Oracle::respond(items, notice.handle));
+          !found.empty())
+        return found;
+    }
+    return same(item, copy) ? Difference() : "An encoder changed the record " + shown(copy);
+  }
+
+private:
+  static Difference told(char const* what, Item const& item, std::string const& library,
+                         std::string const& reference) {
+    if (library == reference)
+      return {};
+    return std::string(Library::name()) + " " + what + " of " + shown(item) +
+           "\n  library:   " + quoted(library) + "\n  reference: " + quoted(reference) + "\n";
+  }
+
+  template <class Operations>
+  static std::string body(Item const& item, bool uniqueIdOnly) {
+    std::string out = "before";
+    Operations::writeBody(item, out, uniqueIdOnly);
+    return out;
+  }
+
+  template <class Operations>
+  static std::string calls(Item const& item) {
+    std::string out = "before";
+    Operations::writeCalls(item, out);
+    return out;
+  }
+
+  template <class Operations>
+  static std::string notify(Item const& item, Notice const& notice) {
+    return Operations::notify(item, notice.uniqueIdToDelete, notice.action, notice.handle);
+  }
+};
+
+struct Request {
+  char const* name;
+  std::string (*library)();
+  std::string (*reference)();
+};
+
+struct RequestForOne {
+  char const* name;
+  std::string (*library)(std::string const&);
+  std::string (*reference)(std::string const&);
+};
+
+struct RequestForSeveral {
+  char const* name;
+  std::string (*library)(std::set<std::string> const&);
+  std::string (*reference)(std::set<std::string> const&);
+};
+
+#define JOURNAL_BOTH(NAME)                                                                         \
+  { #NAME, &JournalServiceHelper::NAME, &Reference::NAME }
+
+constexpr Request requests[] = {
+    JOURNAL_BOTH(reqGetMissedCallList),    JOURNAL_BOTH(reqGetDialledCallList),
+    JOURNAL_BOTH(reqGetReceivedCallList),  JOURNAL_BOTH(reqGetForwardedCallList),
+    JOURNAL_BOTH(reqGetLastDialledNumber), JOURNAL_BOTH(reqSubscribe),
+    JOURNAL_BOTH(reqUnsubscribe),          JOURNAL_BOTH(reqRefreshCallLog),
+    JOURNAL_BOTH(readEnabledState),        JOURNAL_BOTH(readMissedCallList),
+    JOURNAL_BOTH(deleteMissedCallList),    JOURNAL_BOTH(readDialledCallList),
+    JOURNAL_BOTH(deleteDialledCallList),   JOURNAL_BOTH(readReceivedCallList),
+    JOURNAL_BOTH(deleteReceivedCallList),  JOURNAL_BOTH(readForwardedCallList),
+    JOURNAL_BOTH(deleteForwardedCallList),
+};
+
+constexpr RequestForOne requestsForOne[] = {
+    JOURNAL_BOTH(reqDeleteMissedCall),
+    JOURNAL_BOTH(reqDeleteDialledCall),
+    JOURNAL_BOTH(reqDeleteReceivedCall),
+    JOURNAL_BOTH(reqDeleteForwardedCall),
+};
+
+constexpr RequestForSeveral requestsForSeveral[] = {
+    JOURNAL_BOTH(reqSetMissedCallListAsViewed), JOURNAL_BOTH(reqDeleteMissedCallList),
+    JOURNAL_BOTH(reqDeleteDialledCallList),     JOURNAL_BOTH(reqDeleteReceivedCallList),
+    JOURNAL_BOTH(reqDeleteForwardedCallList),   JOURNAL_BOTH(createXMLEntryIDList),
+};
+
+} // namespace
+
+Difference compareRequests(std::string const& id, std::set<std::string> const& ids) {
+  for (auto const& [name, library, reference] : requests)
+    if (library() != reference())
+      return difference(name, "", library(), reference());
+  for (auto const& [name, library, reference] : requestsForOne)
+    if (library(id) != reference(id))
+      return difference(name, id, library(id), reference(id));
+  for (auto const& [name, library, reference] : requestsForSeveral)
+    if (library(ids) != reference(ids))
+      return difference(name, id, library(ids), reference(ids));
+  return {};
+}
+
+Difference compareEncoders(MissedCallItem const& item, Notice const& notice) {
+  return Encoders<MissedCallItem>::compare(item, notice);
+}
+Difference compareEncoders(DialledCallItem const& item, Notice const& notice) {
+  return Encoders<DialledCallItem>::compare(item, notice);
+}
+Difference compareEncoders(ReceivedCallItem const& item, Notice const& notice) {
+  return Encoders<ReceivedCallItem>::compare(item, notice);
+}
+Difference compareEncoders(ForwardedCallItem const& item, Notice const& notice) {
+  return Encoders<ForwardedCallItem>::compare(item, notice);
+}
+
+} // namespace comparison
