@@ -79,4 +79,6 @@ std::string ClientUtils::unescapeXMLString(std::string const& text) {
   return unescaped;
 }
 
-std::string ClientUtils::itos(int value) { return std::to_string(value); }
+std::string ClientUtils::itos(int value) {
+  return std::to_string(value);
+}

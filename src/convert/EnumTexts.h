@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <string_view>
 
@@ -14,17 +15,38 @@
 namespace journal {
 
 /// A member's text, filled up so that it can be copied and compared as a whole.
-struct MemberText {
+class MemberText {
+public:
   static constexpr std::size_t room = 16;
 
-  constexpr MemberText(std::string_view text) : size(text.size()) {
-    for (std::size_t at = 0; at < size; ++at)
-      chars[at] = text[at];
+  constexpr MemberText(std::string_view text) : size_(text.size()) {
+    for (std::size_t at = 0; at < size_; ++at) {
+      chars_[at] = text[at];
+      mask_[at] = '\xff';
+    }
   }
-  constexpr operator std::string_view() const { return {chars, size}; }
 
-  char chars[room] = {};
-  std::size_t size;
+  constexpr std::size_t size() const { return size_; }
+  constexpr operator std::string_view() const { return {chars_, size_}; }
+
+  /// Whether this text stands at `at`, from where on `room` bytes can be read.
+  bool standsAt(char const* at) const {
+    std::uint64_t difference = 0;
+    for (std::size_t word = 0; word < room; word += sizeof difference)
+      difference |= (load(chars_ + word) ^ load(at + word)) & load(mask_ + word);
+    return difference == 0;
+  }
+
+private:
+  static std::uint64_t load(char const* at) {
+    std::uint64_t word;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+  }
+
+  char chars_[room] = {};
+  char mask_[room] = {};
+  std::size_t size_;
 };
 
 /// The texts of an enumeration in the order of its values, which run from 0 without a gap, and the
@@ -108,20 +130,40 @@ struct Slots {
 
 } // namespace detail
 
+namespace detail {
+/// The one member that a text of two characters or more can be.
+template <class Enum>
+constexpr std::size_t candidateFor(std::string_view text) {
+  constexpr Slots<Enum> table;
+  static_assert(table.distinct); // or slotOf does not tell the texts apart
+  return table.members[slotOf(text)];
+}
+} // namespace detail
+
 /// The value whose text this is, byte for byte; enumSize when there is none.
 template <class Enum>
-constexpr std::size_t indexOf(std::string_view text) {
-  constexpr detail::Slots<Enum> slots;
-  static_assert(slots.distinct, "slotOf must tell the texts of an enumeration apart");
+std::size_t indexOf(std::string_view text) {
   if (text.size() < 2)
     return enumSize<Enum>;
-  auto const index = slots.members[detail::slotOf(text)];
+  auto const index = detail::candidateFor<Enum>(text);
   return std::string_view(EnumTexts<Enum>::texts[index]) == text ? index : enumSize<Enum>;
+}
+
+/// The same for the value of an element, which has a close tag behind it: of 12 characters at least
+/// for every element that carries an enumeration.
+template <class Enum>
+std::size_t indexOfValue(std::string_view value) {
+  constexpr std::size_t shortestCloseTag = 12;
+  if (value.size() < MemberText::room - shortestCloseTag)
+    return enumSize<Enum>;
+  auto const index = detail::candidateFor<Enum>(value);
+  MemberText const& member = EnumTexts<Enum>::texts[index];
+  return member.size() == value.size() && member.standsAt(value.data()) ? index : enumSize<Enum>;
 }
 
 /// The member whose text this is; the fallback when there is none.
 template <class Enum>
-constexpr Enum memberOf(std::string_view text) {
+Enum memberOf(std::string_view text) {
   auto const index = indexOf<Enum>(text);
   return index < enumSize<Enum> ? static_cast<Enum>(index) : EnumTexts<Enum>::fallback;
 }

@@ -2,6 +2,7 @@
 #ifndef JOURNAL_RECORDS_FIELDREADER_H
 #define JOURNAL_RECORDS_FIELDREADER_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -22,7 +23,11 @@ public:
   JOURNAL_INLINE inline void store(std::string_view raw, Field<Record> const& row, Record& record) {
     switch (row.content) {
     case Content::text:
-      return readText(raw, record.*row.member.text);
+      if (isMissing(raw))
+        (record.*row.member.text).clear();
+      else
+        record.*row.member.text = unescape(raw);
+      return;
     case Content::flag:
       record.*row.member.flag = raw == word::TRUE;
       return;
@@ -42,15 +47,13 @@ public:
   }
 
 private:
-  void readText(std::string_view raw, std::string& text);
-
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
   /// the same text always gives the same, asking once for each member's text is enough.
   template <class Enum>
   Enum readMember(std::string_view raw) {
     if (isMissing(raw))
       return EnumTexts<Enum>::fallback;
-    auto const index = indexOf<Enum>(raw);
+    auto const index = indexOfValue<Enum>(raw);
     if (index == enumSize<Enum>)
       return memberOf<Enum>(unescape(raw));
     auto& known = std::get<KnownMembers<Enum>>(known_).members[index];
@@ -76,7 +79,11 @@ private:
              KnownMembers<CallLogEntryEvent::_PresentationValue>,
              KnownMembers<CallLogEntryEvent::_TFormat>>
       known_;
-  std::string scratch_; // kept, so that long values do not allocate one each
+
+  // What the utility library is given. The texts are kept, so that a long value does not allocate
+  // another; there is one for each small size, so that only its bytes have to be copied.
+  std::array<std::string, 32> arguments_;
+  std::string longArgument_;
 };
 
 } // namespace journal

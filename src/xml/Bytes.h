@@ -7,6 +7,10 @@
 #include <cstdint>
 #include <cstring>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include "xml/Inline.h"
 
 namespace journal {
@@ -30,20 +34,42 @@ JOURNAL_INLINE inline bool sameWords(char const* left, char const* right, std::s
   return difference == 0;
 }
 
-/// Sets the top bit of each byte of `word` that is zero, and no other bit.
-JOURNAL_INLINE inline std::uint64_t zeroBytes(std::uint64_t word) {
-  constexpr std::uint64_t low = 0x7f7f7f7f7f7f7f7f;
-  return ~(((word & low) + low) | word | low);
-}
+#ifdef __SSE2__
 
-/// The index in memory of the first byte that is marked in a mask other than zero.
-JOURNAL_INLINE inline std::size_t firstMarked(std::uint64_t mask) {
-#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
-  return static_cast<std::size_t>(__builtin_ctzll(mask)) / 8;
+/// As many bytes as are looked at at once, and where among them the first `byte` is.
+struct Block {
+  static constexpr std::ptrdiff_t size = 16;
+
+  JOURNAL_INLINE static inline unsigned find(char const* at, char byte) {
+    auto const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(byte))));
+  }
+  JOURNAL_INLINE static inline int first(unsigned found) { return __builtin_ctz(found); }
+};
+
 #else
-  return static_cast<std::size_t>(__builtin_clzll(mask)) / 8;
+
+/// As many bytes as are looked at at once, and where among them the first `byte` is.
+struct Block {
+  static constexpr std::ptrdiff_t size = 8;
+
+  /// Sets the top bit of each byte that is found, and no other bit, whichever end comes first.
+  JOURNAL_INLINE static inline std::uint64_t find(char const* at, char byte) {
+    constexpr std::uint64_t low = 0x7f7f7f7f7f7f7f7f;
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    auto const differences = load<std::uint64_t>(at) ^ ones * static_cast<unsigned char>(byte);
+    return ~(((differences & low) + low) | differences | low);
+  }
+  JOURNAL_INLINE static inline int first(std::uint64_t found) {
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+    return __builtin_ctzll(found) / 8;
+#else
+    return __builtin_clzll(found) / 8;
 #endif
-}
+  }
+};
+
+#endif
 
 } // namespace detail
 
@@ -58,12 +84,10 @@ JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::s
 
 /// The first `byte` in front of `end`; `end` when there is none.
 JOURNAL_INLINE inline char const* findByte(char const* at, char const* end, char byte) {
-  if (builtForSpeed) {
-    auto const pattern = 0x0101010101010101 * static_cast<std::uint64_t>(byte);
-    for (; end - at >= 8; at += 8)
-      if (auto const found = detail::zeroBytes(load<std::uint64_t>(at) ^ pattern); found != 0)
-        return at + detail::firstMarked(found);
-  }
+  if (builtForSpeed)
+    for (; end - at >= detail::Block::size; at += detail::Block::size)
+      if (auto const found = detail::Block::find(at, byte); found != 0)
+        return at + detail::Block::first(found);
   while (at != end && *at != byte)
     ++at;
   return at;

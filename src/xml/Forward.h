@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "vocabulary/Tags.h"
 #include "xml/Bytes.h"
 #include "xml/Inline.h"
 #include "xml/Text.h"
@@ -30,12 +31,20 @@ public:
     return true;
   }
 
-  /// Reads a value and the close tag behind it; missing when another tag stands there.
-  JOURNAL_INLINE inline std::string_view takeValue(std::string_view close) {
-    auto const* const value = at_;
-    at_ = findByte(at_, end_, '<');
-    auto const size = static_cast<std::size_t>(at_ - value);
-    return take(close) ? std::string_view(value, size) : missing;
+  /// Reads an element if one can stand here: its value, or missing when its begin tag is not here.
+  /// Gives false when another tag than its close tag follows the value.
+  JOURNAL_INLINE inline bool take(Element const& element, std::string_view& value) {
+    auto const tags = element.begin.size() + element.close.size();
+    if (left() < tags || !sameBytes(at_, element.begin.data(), element.begin.size())) {
+      value = missing;
+      return true;
+    }
+    auto const* const front = at_ + element.begin.size();
+    auto const* const last = end_ - element.close.size(); // where the close tag can start
+    auto const* const close = findByte(front, last, '<');
+    value = {front, static_cast<std::size_t>(close - front)};
+    at_ = close + element.close.size();
+    return sameBytes(close, element.close.data(), element.close.size());
   }
 
 private:

@@ -49,6 +49,9 @@ Difference compareElement(std::string const& text, std::string const& name);
 /// Method recognition, the failure word, the call-log setting, the last unique id, the envelope.
 Difference compareMessage(std::string const& text);
 
+/// Escaping, unescaping and one after the other.
+Difference compareEscaping(std::string const& text);
+
 /// The text as a word or a value: conversions, escaping, and elements built from it.
 Difference compareWord(std::string const& text);
 

@@ -72,7 +72,7 @@ comparison::Notice noticeFor(std::size_t turn, std::vector<std::string> const& t
 }
 
 template <class Item>
-class Records : public ::testing::Test {
+class WrittenRecords : public ::testing::Test {
 protected:
   void compare(Item const& item, std::vector<std::string> const& texts) {
     auto const difference = comparison::compareEncoders(item, noticeFor(compared_, texts));
@@ -87,9 +87,9 @@ protected:
 
 using Kinds =
     ::testing::Types<MissedCallItem, DialledCallItem, ReceivedCallItem, ForwardedCallItem>;
-TYPED_TEST_SUITE(Records, Kinds, );
+TYPED_TEST_SUITE(WrittenRecords, Kinds, );
 
-TYPED_TEST(Records, WithEachFieldSetToEachValue) {
+TYPED_TEST(WrittenRecords, WithEachFieldSetToEachValue) {
   auto texts = neighbourhood::valueTokens();
   texts.insert(texts.end(), {"", "<", "</Number>", "\"'", "</Item><Item>", std::string(300, '&')});
   for (auto const& original :
@@ -105,7 +105,7 @@ TYPED_TEST(Records, WithEachFieldSetToEachValue) {
   EXPECT_EQ(this->compared_, 2 * fieldsIn<TypeParam>() * texts.size());
 }
 
-TYPED_TEST(Records, WithEachTwoFieldsSet) {
+TYPED_TEST(WrittenRecords, WithEachTwoFieldsSet) {
   std::vector<std::string> const texts = {"", "a", "&<>\"'", "Failure"};
   for (auto const& original :
        {neighbourhood::fullItem<TypeParam>(), neighbourhood::sparseItem<TypeParam>()})
@@ -121,7 +121,7 @@ TYPED_TEST(Records, WithEachTwoFieldsSet) {
         }
 }
 
-TYPED_TEST(Records, WithSeveralCalls) {
+TYPED_TEST(WrittenRecords, WithSeveralCalls) {
   std::vector<std::string> const texts = {"", "<&>"};
   for (std::size_t calls = 0; calls < 40; ++calls) {
     auto item = neighbourhood::fullItem<TypeParam>();
@@ -134,7 +134,7 @@ TYPED_TEST(Records, WithSeveralCalls) {
   }
 }
 
-TEST(Words, OfOneAndTwoTokens) {
+TEST(WrittenWords, OfOneAndTwoTokens) {
   auto tokens = neighbourhood::alphabet(true);
   tokens.push_back("");
   for (auto const& first : tokens)
@@ -143,14 +143,14 @@ TEST(Words, OfOneAndTwoTokens) {
   std::cout << tokens.size() * tokens.size() << " words compared\n";
 }
 
-TEST(Words, AtTheBoundariesOfNumbers) {
+TEST(WrittenWords, AtTheBoundariesOfNumbers) {
   for (int const number : numbers())
     ASSERT_EQ(comparison::compareNumber(number), "");
   for (int number = -1000; number <= 1000; ++number)
     ASSERT_EQ(comparison::compareNumber(number), "");
 }
 
-TEST(Words, AsIdsOfRequests) {
+TEST(WrittenWords, AsIdsOfRequests) {
   auto tokens = neighbourhood::valueTokens();
   tokens.insert(tokens.end(), {"", "<EntryId>", "</EntryId>", std::string(500, 'x')});
   std::set<std::string> ids;

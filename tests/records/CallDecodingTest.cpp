@@ -76,6 +76,12 @@ TYPED_TEST(CallDecoding, MembersAreReadByTheirExactTexts) {
       texts.push_back(member);
       texts.back()[0] = static_cast<char>(texts.back()[0] + ('a' - 'A'));
     }
+    for (std::string const& member : cursor_model::membersOf(element.sort)) {
+      for (std::string::size_type at = 0; at < member.size(); ++at) {
+        texts.push_back(member);
+        texts.back()[at] = '~';
+      }
+    }
     texts.insert(texts.end(), {"", "0", "1", "TRUE", "true", "&amp;"});
     for (std::string const& text : texts) {
       auto const call = callIn<TypeParam>(cursor_model::tagged(element.name, text));
@@ -85,6 +91,24 @@ TYPED_TEST(CallDecoding, MembersAreReadByTheirExactTexts) {
         }
     }
   }
+}
+
+// Texts of every length, one behind the other in one list, so that none leaves a trace in the next.
+TYPED_TEST(CallDecoding, TextsOfEveryLength) {
+  typename TypeParam::InfoList expected;
+  std::string text = "<LogList>";
+  for (std::string::size_type length = 1; length <= 300; ++length) {
+    for (std::size_t const size : {length, length / 2 + 1, length}) {
+      expected.emplace_back();
+      expected.back().number = std::string(size, static_cast<char>('a' + expected.size() % 26));
+      expected.back().timeDate = std::string(length, static_cast<char>('A' + length % 26)) + "&";
+      text += "<Item><Number>" + expected.back().number + "</Number><TimeDate>" +
+              expected.back().timeDate.substr(0, length) + "&amp;</TimeDate></Item>";
+    }
+  }
+  typename TypeParam::InfoList list;
+  EXPECT_TRUE(TypeParam::readCalls((text + "</LogList>").c_str(), list));
+  EXPECT_EQ(list, expected);
 }
 
 // A tag is matched in full: no element is found inside the tags of one with a longer name.

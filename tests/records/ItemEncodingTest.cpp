@@ -272,6 +272,28 @@ TYPED_TEST(ItemEncoding, CallsKeepTheirOrder) {
   EXPECT_EQ(this->calls(item), open + expected + close);
 }
 
+// Each text at every length, behind an output that leaves more or less room.
+TYPED_TEST(ItemEncoding, TextsOfEveryLength) {
+  for (std::string::size_type length = 1; length <= 200; ++length) {
+    std::string const value(length, static_cast<char>('a' + length % 26));
+    typename TypeParam::Item item;
+    item.surname = value;
+    item.picture = value;
+    item.callInfoList.emplace_back();
+    item.callInfoList.back().number = value;
+    std::string const call = this->oneCall({});
+    auto const callAt = std::string("<LogList><Item>").size();
+    std::string expected(length * 7, '.');
+    std::string out = expected;
+    out.shrink_to_fit();
+    TypeParam::writeBody(item, out, false);
+    expected += "<Surname>" + value + "</Surname><Picture>" + value + "</Picture>";
+    expected += std::is_same_v<TypeParam, Missed> ? "<Viewed>False</Viewed>" : "";
+    expected += call.substr(0, callAt) + "<Number>" + value + "</Number>" + call.substr(callAt);
+    EXPECT_EQ(out, expected);
+  }
+}
+
 TYPED_TEST(ItemEncoding, TheBodyEndsWithTheList) {
   auto const item = TypeParam::full();
   std::string const whole = this->body(item);

@@ -51,6 +51,23 @@ TYPED_TEST(ListResponse, EntriesInOrder) {
   EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
 }
 
+// Long and short entries, in all far more than is reserved for them.
+TYPED_TEST(ListResponse, ManyEntriesOfManyLengths) {
+  typename TypeParam::Log items;
+  std::string expected = methodOf(TypeParam());
+  for (std::string::size_type length = 0; length < 9000; length = length * 5 / 4 + 1) {
+    for (std::string::size_type const size : {length, std::string::size_type(1)}) {
+      items.push_back(TypeParam::full());
+      items.back().uniqueId = std::string(size, 'u');
+      items.back().firstname = std::string(length, '&');
+      items.back().callInfoList.back().timeDate = std::string(size * 3, 't');
+      expected += "<Entry>" + this->bodyOf(items.back()) + "</Entry>";
+    }
+  }
+  EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
+  EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
+}
+
 TYPED_TEST(ListResponse, HandlesAreSigned) {
   struct Row {
     unsigned int handle;

@@ -1,0 +1,16 @@
+# Tests that run each fuzz target over its corpus, with any compiler and on any machine.
+include(${CMAKE_CURRENT_LIST_DIR}/targets.cmake)
+
+add_library(journal_fuzz_comparison OBJECT ${JOURNAL_FUZZ_COMPARISON})
+target_include_directories(journal_fuzz_comparison PUBLIC ${JOURNAL_FUZZ_INCLUDES})
+target_link_libraries(journal_fuzz_comparison PUBLIC
+  JournalServiceHelper::JournalServiceHelper JournalServiceHelper::ClientUtils)
+
+foreach(target IN LISTS JOURNAL_FUZZ_TARGETS)
+  add_executable(replay_${target} ${JOURNAL_FUZZ_DIR}/${target}.cpp ${JOURNAL_FUZZ_DIR}/replay.cpp)
+  target_link_libraries(replay_${target} PRIVATE journal_fuzz_comparison)
+  string(REPLACE "fuzz_" "fuzz_corpus_" test ${target})
+  add_test(NAME ${test}
+    COMMAND replay_${target} ${JOURNAL_FUZZ_DIR}/corpus/${target})
+  set_tests_properties(${test} PROPERTIES TIMEOUT 600)
+endforeach()
