@@ -140,7 +140,7 @@ typename Kind::Log makeLog(std::size_t entries) {
   Random random(20261120);
   typename Kind::Log log;
   for (std::size_t at = 0; at < entries; ++at) {
-    typename Kind::Item item;
+    typename Kind::Item& item = log.emplace_back();
     item.uniqueId = std::to_string(1000 + at);
     item.entryId = std::to_string(70000 + 3 * at);
     bool const named = random.percent(80);
@@ -153,7 +153,6 @@ typename Kind::Log makeLog(std::size_t entries) {
     for (std::size_t calls = random.between(1, 5); calls > 0; --calls)
       fill(item.callInfoList.emplace_back(), random, named);
     fillOwn(item, random);
-    log.push_back(item);
   }
   return log;
 }

@@ -12,6 +12,8 @@ COLOURS = {
     "oracle": "#444444",
 }
 
+TITLES = {"decode": "Decoding", "encode": "Encoding"}
+
 COMMON = """
 set terminal svg size 860,420 font 'sans-serif,13' background rgb 'white'
 set output '{path}'
@@ -72,7 +74,7 @@ def against_bound(run, path, what, bound, bound_title):
         if who != bound and run.total(f"{what}/{{}}/100/{who}") is not None:
             rows.append([name, *(run.times[f"{what}/{kind}/100/{who}"]
                                  / run.times[f"{what}/{kind}/100/{bound}"] for kind in KINDS)])
-    bars(path, f"{what.capitalize()} 100 entries", f"times {bound_title}", rows, log=True)
+    bars(path, f"{TITLES[what]} 100 entries", f"times {bound_title}", rows, log=True)
 
 
 def over_sizes(run, path, what):
@@ -81,7 +83,7 @@ def over_sizes(run, path, what):
         values = [run.per_byte(f"{what}/{{}}/{size}/{who}") for size in SIZES]
         if None not in values:
             series[who] = values
-    lines(path, f"{what.capitalize()}, all four kinds", "ns per byte of message", series)
+    lines(path, f"{TITLES[what]}, all four kinds", "ns per byte of message", series)
 
 
 def damages(run, path):

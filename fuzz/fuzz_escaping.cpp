@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   if (size < fuzz::selectorBytes)
     return 0;
   auto const text = fuzz::textOf(data + fuzz::selectorBytes, size - fuzz::selectorBytes);
-  switch (data[0] % 8) {
+  switch (data[0] % 16) {
   case 0: {
     std::uint32_t number = 0;
     for (std::size_t byte = 0; byte < text.size() && byte < 4; ++byte)

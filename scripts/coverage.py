@@ -47,6 +47,18 @@ def branches_taken(branches):
     return counts
 
 
+def start_of(function):
+    return function['start_line'], function['start_column']
+
+
+def split_copies(branches, copies):
+    """The equal parts of a line's branches that stem from equally many copies of a function."""
+    size = len(branches) // copies
+    parts = [branches[at:at + size] for at in range(0, size * copies, size)] if size else []
+    shapes = {tuple(branch['throw'] for branch in part) for part in parts}
+    return parts if size * copies == len(branches) and len(shapes) == 1 else [branches]
+
+
 class Merged:
     """The lines of the libraries."""
 
@@ -56,6 +68,7 @@ class Merged:
         # (file, line) -> (where the function starts, number of branches) -> counts of each
         self.branches = defaultdict(dict)
         self.copies = defaultdict(dict)  # (file, line) -> function -> counts of each branch
+        self.functions = defaultdict(dict)  # file -> where it starts -> (name, how often)
 
     def add(self, document, folders):
         for file in document['files']:
@@ -63,21 +76,39 @@ class Merged:
             if not any(path.is_relative_to(self.root / folder) for folder in folders):
                 continue
             name = str(path.relative_to(self.root))
-            starts = {f['name']: (f['start_line'], f['start_column']) for f in file['functions']}
             for line in file['lines']:
-                self.add_line(name, line, starts.get(line.get('function_name')))
+                self.add_line(name, line, file['functions'])
+            for function in file['functions']:
+                known, count = self.functions[name].get(start_of(function), (None, 0))
+                self.functions[name][start_of(function)] = (
+                    known or function['demangled_name'], count + function['execution_count'])
 
-    def add_line(self, name, line, start):
+    def add_line(self, name, line, functions):
         key = name, line['line_number']
         self.counts[key] += line['count']
-        counts = branches_taken(line['branches'])
-        if counts:
-            self.sum(self.copies[key], (line.get('function_name'), len(counts)), counts)
-            self.sum(self.branches[key], (start, len(counts)), counts)
+        function = line.get('function_name')
+        starts = [start_of(f) for f in functions if f['name'] == function]
+        copies = 1
+        if function is None:
+            # gcov joins the copies of a lambda that stands in a template.
+            around = [start_of(f) for f in functions
+                      if f['start_line'] <= line['line_number'] <= f['end_line']]
+            starts = [max(around, default=None)]
+            copies = max(1, around.count(starts[0]))
+        for index, part in enumerate(split_copies(line['branches'], copies)):
+            counts = branches_taken(part)
+            if counts:
+                self.sum(self.copies[key], (function, index, len(counts)), counts)
+                self.sum(self.branches[key], (starts[0], len(counts)), counts)
 
     @staticmethod
     def sum(known, which, counts):
         known[which] = [a + b for a, b in zip(known.get(which, [0] * len(counts)), counts)]
+
+    @staticmethod
+    def is_bare(text):
+        """Whether a line has no code of its own: it is counted only where exceptions end blocks."""
+        return not text.split('//')[0].strip(' {};')
 
     def branches_of(self, key, text):
         groups = self.branches.get(key, {}).values()
@@ -90,14 +121,20 @@ class Merged:
         for key in sorted(self.counts):
             name, number = key
             text = (self.root / name).read_text().splitlines()[number - 1]
+            if self.counts[key] == 0 and self.is_bare(text):
+                continue
             files[name].append({
                 'line_number': number, 'count': self.counts[key],
                 'branches': [{'count': count, 'fallthrough': False, 'throw': False}
                              for count in self.branches_of(key, text)],
                 'gcovr/noncode': False, 'gcovr/excluded': False})
         return {'gcovr/format_version': '0.3',
-                'files': [{'file': name, 'lines': lines, 'functions': []}
+                'files': [{'file': name, 'lines': lines, 'functions': self.functions_of(name)}
                           for name, lines in sorted(files.items())]}
+
+    def functions_of(self, file):
+        return [{'name': name, 'lineno': start[0], 'execution_count': count}
+                for start, (name, count) in sorted(self.functions[file].items())]
 
 
 def main():
@@ -112,7 +149,8 @@ def main():
     output.write_text(json.dumps(merged.tracefile()))
     every = [count for copies in merged.copies.values() for copy in copies.values()
              for count in copy]
-    print(f'Counted once for each copy, {sum(map(bool, every))} of {len(every)} branches are taken.')
+    print('With every copy that the compiler makes of a template or an inline function counted by',
+          f'itself, {sum(map(bool, every))} of {len(every)} branches are taken.', sep='\n')
 
 
 main()

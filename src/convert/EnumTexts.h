@@ -128,15 +128,14 @@ struct Slots {
   }
 };
 
-} // namespace detail
+template <class Enum>
+inline constexpr Slots<Enum> slotsOf;
 
-namespace detail {
 /// The one member that a text of two characters or more can be.
 template <class Enum>
 constexpr std::size_t candidateFor(std::string_view text) {
-  constexpr Slots<Enum> table;
-  static_assert(table.distinct); // or slotOf does not tell the texts apart
-  return table.members[slotOf(text)];
+  static_assert(slotsOf<Enum>.distinct); // or slotOf does not tell the texts apart
+  return slotsOf<Enum>.members[slotOf(text)];
 }
 } // namespace detail
 

@@ -77,7 +77,7 @@ bool takeFields(Forward& from, Record& record, FieldReader& reader) {
   auto forward = from; // of its own, so that it can stay in registers
   auto const straight = visitRows<rows>([&](Field<Record> const& row, std::size_t) JOURNAL_INLINE {
     std::string_view raw;
-    if (!forward.take(row.element, raw))
+    if (!forward.take(row.element, row.usual, raw))
       return false;
     // There is no second begin tag here for an unclosed element to be found by.
     storeRead(row.reading == Reading::unclosed ? missing : raw, row, record, reader);

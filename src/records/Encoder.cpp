@@ -141,7 +141,7 @@ void appendInfoList(Item const& item, Writer& writer) {
 
 template <class Item>
 void appendItemBody(Item const& item, Writer& writer) {
-  appendFields<Kind<Item>::entry>({}, item, {}, writer);
+  appendFields<Kind<Item>::entry>("", item, "", writer);
   appendInfoList(item, writer);
 }
 

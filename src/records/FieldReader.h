@@ -50,16 +50,20 @@ private:
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
   /// the same text always gives the same, asking once for each member's text is enough.
   template <class Enum>
-  Enum readMember(std::string_view raw) {
+  JOURNAL_INLINE inline Enum readMember(std::string_view raw) {
     if (isMissing(raw))
       return EnumTexts<Enum>::fallback;
     auto const index = indexOfValue<Enum>(raw);
-    if (index == enumSize<Enum>)
-      return memberOf<Enum>(unescape(raw));
-    auto& known = std::get<KnownMembers<Enum>>(known_).members[index];
-    if (known == unknown)
-      known = static_cast<std::int8_t>(memberOf<Enum>(unescape(raw)));
-    return static_cast<Enum>(known);
+    auto const known = std::get<KnownMembers<Enum>>(known_).members[index];
+    return known != unknown ? static_cast<Enum>(known) : askForMember<Enum>(raw, index);
+  }
+
+  template <class Enum>
+  [[gnu::noinline]] Enum askForMember(std::string_view raw, std::size_t index) {
+    auto const member = memberOf<Enum>(unescape(raw));
+    if (index < enumSize<Enum>)
+      std::get<KnownMembers<Enum>>(known_).members[index] = static_cast<std::int8_t>(member);
+    return member;
   }
 
   std::string unescape(std::string_view raw);
@@ -68,7 +72,7 @@ private:
 
   template <class Enum>
   struct KnownMembers {
-    std::int8_t members[enumSize<Enum>];
+    std::int8_t members[enumSize<Enum> + 1]; // the last, for any other text, is never known
     constexpr KnownMembers() : members() {
       for (auto& member : members)
         member = unknown;

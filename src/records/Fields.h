@@ -7,10 +7,12 @@
 #include <cstddef>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "CallLogEntryEvent.h"
 #include "NumberType.h"
+#include "convert/EnumTexts.h"
 #include "vocabulary/Tags.h"
 #include "xml/Inline.h"
 
@@ -55,6 +57,7 @@ struct Field {
   Content content;
   Writing writing;
   Reading reading;
+  std::string_view usual; // the text and close tag that most records hold; empty for none
 };
 
 template <class Value>
@@ -74,7 +77,35 @@ inline constexpr Content contentOf<CallLogEntryEvent::_TFormat> = Content::timeF
 template <std::string_view const& name, class Record, class Value>
 constexpr Field<Record> field(Value Record::*member, Writing writing = Writing::raw,
                               Reading reading = Reading::stored) {
-  return {element<name>, member, contentOf<Value>, writing, reading};
+  return {element<name>, member, contentOf<Value>, writing, reading, {}};
+}
+
+namespace detail {
+template <std::string_view const& name, auto value>
+struct UsualText {
+  static constexpr std::string_view close = element<name>.close;
+  static constexpr std::string_view text = EnumTexts<decltype(value)>::texts[value];
+
+  static constexpr auto make() {
+    std::array<char, text.size() + close.size()> made{};
+    for (std::size_t at = 0; at < made.size(); ++at)
+      made[at] = at < text.size() ? text[at] : close[at - text.size()];
+    return made;
+  }
+  static constexpr auto chars = make();
+};
+} // namespace detail
+
+/// The row of an element that nearly always carries the same value, which a reader built for speed
+/// looks for first.
+template <std::string_view const& name, auto usual, class Record>
+constexpr Field<Record> mostly(decltype(usual) Record::*member, Reading reading = Reading::stored) {
+  auto row = field<name>(member, Writing::raw, reading);
+  if constexpr (builtForSpeed) {
+    constexpr auto& chars = detail::UsualText<name, usual>::chars;
+    row.usual = {chars.data(), chars.size()};
+  }
+  return row;
 }
 
 namespace detail {

@@ -49,7 +49,7 @@ public:
 
   template <class Record>
   std::enable_if_t<std::is_class_v<Record>> feed(Record const& record) {
-    comparison::forEachField(record, [this](auto const& field) { feed(field); });
+    comparison::forEachField(record, [this](auto const& field) { this->feed(field); });
     if constexpr (comparison::HasCalls<Record>::value)
       feed(record.callInfoList);
   }

@@ -87,6 +87,7 @@ struct Operation {
   int kind;           // of call log: 0 to 3, or NO_KIND
   bool readsText;     // what it does depends on the input's text
   bool writesRecords; // what it does depends on the input's records
+  bool readsIds;      // what it does depends on the input's ids
   std::function<void(Input const&, Outputs&)> run;
   std::function<void(Outputs const&, Digest&)> feed; // digests what it wrote
 };
@@ -186,6 +187,7 @@ Operation make(char const* name, Result (*function)(Parameters...), std::index_s
   made.kind = kindOfAny<Parameters...>();
   made.readsText = startsWithText<Parameters...>;
   made.writesRecords = made.kind != NO_KIND && !made.readsText;
+  made.readsIds = (std::is_same_v<Plain<Parameters>, std::set<std::string>> || ...);
   made.run = [function](Input const& in, [[maybe_unused]] Outputs& out) {
     if constexpr (std::is_void_v<Result>)
       function(pass<Parameters, index, atCursor>(in, out)...);

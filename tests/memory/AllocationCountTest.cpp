@@ -70,7 +70,13 @@ private:
 
 using Items =
     ::testing::Types<MissedCallItem, DialledCallItem, ReceivedCallItem, ForwardedCallItem>;
-TYPED_TEST_SUITE(AllocationCount, Items);
+struct Names {
+  template <class Item>
+  static std::string GetName(int) {
+    return comparison::KindOperations<Item, JournalServiceHelper>::name();
+  }
+};
+TYPED_TEST_SUITE(AllocationCount, Items, Names);
 
 TYPED_TEST(AllocationCount, OfDecodingIsThatOfCopyingTheResult) {
   using Kind = comparison::KindOperations<TypeParam, JournalServiceHelper>;

@@ -28,7 +28,7 @@ constexpr int LEVELS = 6;
 enum class Outputs { fresh, filled };
 
 /// The texts of one input in readable form, cut off where it gets long.
-std::string quoted(std::string const& text);
+std::string readable(std::string const& text);
 
 /// Every element name of the messages, and the empty name.
 std::vector<std::string> const& elementNames();

@@ -119,7 +119,7 @@ private:
   static Difference told(char const* what, std::string const& text, Decoded<Output> const& library,
                          Decoded<Output> const& reference) {
     if (library != reference)
-      return std::string(Library::name()) + " " + what + "\n  on:        " + quoted(text) +
+      return std::string(Library::name()) + " " + what + "\n  on:        " + readable(text) +
              "\n  library:   " + shownDecoded(library) +
              "\n  reference: " + shownDecoded(reference) + "\n";
     return {};
@@ -209,7 +209,7 @@ Difference unchanged(std::string const& text, Compare compare) {
   copy.assign(text);
   auto found = compare();
   if (found.empty() && std::memcmp(copy.data(), text.data(), copy.size() + 1) != 0)
-    return "A decoder changed the text\n  from: " + quoted(copy) + "\n  to:   " + quoted(text);
+    return "A decoder changed the text\n  from: " + readable(copy) + "\n  to:   " + readable(text);
   return found;
 }
 

@@ -10,7 +10,7 @@
 
 namespace comparison {
 
-std::string quoted(std::string const& text) {
+std::string readable(std::string const& text) {
   static char const digits[] = "0123456789abcdef";
   constexpr std::size_t longest = 4000;
   std::string all = "\"";
@@ -61,7 +61,7 @@ private:
     if (library == reference)
       return {};
     return std::string(Library::name()) + " " + what + " of " + shown(item) +
-           "\n  library:   " + quoted(library) + "\n  reference: " + quoted(reference) + "\n";
+           "\n  library:   " + readable(library) + "\n  reference: " + readable(reference) + "\n";
   }
 
   template <class Operations>

@@ -14,7 +14,7 @@
 namespace comparison {
 
 inline std::string shown(std::string const& value) {
-  return quoted(value);
+  return readable(value);
 }
 
 template <class Number,
@@ -61,7 +61,7 @@ std::string shown(std::deque<Item> const& log) {
 template <class Result>
 Difference difference(std::string const& operation, std::string const& input, Result const& library,
                       Result const& reference) {
-  return operation + "\n  on:        " + quoted(input) + "\n  library:   " + shown(library) +
+  return operation + "\n  on:        " + readable(input) + "\n  library:   " + shown(library) +
          "\n  reference: " + shown(reference) + "\n";
 }
 

@@ -122,4 +122,17 @@ TYPED_TEST(ListResponse, RoomIsReservedForTheLongestResponseSoFar) {
   }
 }
 
+// An answer that is somewhat longer than any before takes no more memory than was reserved for it.
+TYPED_TEST(ListResponse, ALogThatGrewByAnEntryFitsIntoTheRoom) {
+  typename TypeParam::Log items(20, TypeParam::full());
+  items.front().uniqueId = std::string(TypeParam::respond({}, 0).capacity(), 'x');
+  std::size_t const longest = TypeParam::respond(items, 0).size();
+  std::size_t const reserved = TypeParam::respond({}, 0).capacity();
+  items.push_back(TypeParam::full());
+  std::string const grown = TypeParam::respond(items, 0);
+  EXPECT_GT(grown.size(), longest);
+  EXPECT_LT(grown.size(), longest + 2000);
+  EXPECT_EQ(grown.capacity(), reserved);
+}
+
 } // namespace
