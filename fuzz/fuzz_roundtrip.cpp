@@ -1,8 +1,8 @@
 // Fuzzes the encoders with records built from the input, and the decoders with what they wrote.
 //
-// The first byte chooses the kind, the second the number of calls, the third how the written text
-// is read back. Behind them stand the fields in turn: a text up to the next line feed, a flag or an
-// enumeration in one byte.
+// The first byte chooses the kind, the second the number of calls and what is written, the third
+// how the written text is read back. Behind them stand the fields in turn: a text up to the next
+// line feed, a flag or an enumeration in one byte.
 #include <set>
 #include <string_view>
 
@@ -59,9 +59,11 @@ void run(comparison::Kind kind, std::uint8_t const* selectors, std::string_view 
   notice.action = static_cast<JournalServiceObserverIfc::ActionType>(fields.number());
   notice.handle = static_cast<unsigned int>(fields.number());
   fields(notice.uniqueIdToDelete);
-  fuzz::expectEqual(comparison::compareEncoders(item, notice));
-  if (selectors[2] / 16 == 0)
+  auto const writing = selectors[1] / 4 % (comparison::WRITINGS + 1);
+  if (writing == comparison::WRITINGS)
     fuzz::expectEqual(comparison::compareRequests(item.entryId, {item.entryId, item.uniqueId}));
+  else
+    fuzz::expectEqual(comparison::compareEncoder(item, notice, comparison::Writing(writing)));
 
   using Library = comparison::KindOperations<Item, JournalServiceHelper>;
   auto const level = static_cast<comparison::Level>(selectors[2] % comparison::LEVELS);

@@ -21,7 +21,7 @@ template <class Record>
 JOURNAL_INLINE inline void storeRead(std::string_view raw, Field<Record> const& row, Record& record,
                                      FieldReader& reader) {
   if (row.reading != Reading::discarded)
-    reader.store(raw, row, record);
+    reader.store(raw, row.content, row.in(record));
 }
 
 // An entry without a single call leaves the list as it was.

@@ -15,6 +15,24 @@
 namespace journal {
 namespace {
 
+JOURNAL_INLINE inline std::string_view textOfField(Content content, void const* field) {
+  switch (content) {
+  case Content::flag:
+    return textOf(*static_cast<bool const*>(field));
+  case Content::numberType:
+    return textOf(*static_cast<NumberType::NT const*>(field));
+  case Content::targetLog:
+    return textOf(*static_cast<CallLogEntryEvent::_LogTarget const*>(field));
+  case Content::presentation:
+    return textOf(*static_cast<CallLogEntryEvent::_PresentationValue const*>(field));
+  case Content::timeFormat:
+    return textOf(*static_cast<CallLogEntryEvent::_TFormat const*>(field));
+  case Content::text:
+    break;
+  }
+  return *static_cast<std::string const*>(field);
+}
+
 template <auto const& rows>
 constexpr std::size_t escapedTexts() {
   std::size_t count = 0;
@@ -61,7 +79,7 @@ public:
   FieldTexts(Record const& record, Writer& writer) {
     auto nextEscaped = escaped_.begin();
     visitRows<rows>([&](Field<Record> const& row, std::size_t index) JOURNAL_INLINE {
-      texts_[index] = textOfField(row, record);
+      texts_[index] = textOfField(row.content, row.in(record));
       if (row.writing == Writing::escaped) {
         if (texts_[index].empty())
           texts_[index] = writer.escapedNothing();
@@ -97,25 +115,6 @@ public:
   }
 
 private:
-  JOURNAL_INLINE static inline std::string_view textOfField(Field<Record> const& row,
-                                                            Record const& record) {
-    switch (row.content) {
-    case Content::flag:
-      return textOf(record.*row.member.flag);
-    case Content::numberType:
-      return textOf(record.*row.member.numberType);
-    case Content::targetLog:
-      return textOf(record.*row.member.targetLog);
-    case Content::presentation:
-      return textOf(record.*row.member.presentation);
-    case Content::timeFormat:
-      return textOf(record.*row.member.timeFormat);
-    case Content::text:
-      break;
-    }
-    return record.*row.member.text;
-  }
-
   std::array<std::string_view, std::size(rows)> texts_;
   std::array<std::string, escapedTexts<rows>()> escaped_;
   std::size_t size_ = 0;

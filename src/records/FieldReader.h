@@ -18,44 +18,44 @@ namespace journal {
 /// One lives through the decoding of one message.
 class FieldReader {
 public:
-  /// Stores a raw value, missing or not, in the field of a row.
-  template <class Record>
-  JOURNAL_INLINE inline void store(std::string_view raw, Field<Record> const& row, Record& record) {
-    switch (row.content) {
+  /// Stores a raw value, missing or not, in a field.
+  JOURNAL_INLINE inline void store(std::string_view raw, Content content, void* field) {
+    switch (content) {
     case Content::text:
-      if (isMissing(raw))
-        (record.*row.member.text).clear();
-      else
-        record.*row.member.text = unescape(raw);
-      return;
+      return readText(raw, *static_cast<std::string*>(field));
     case Content::flag:
-      record.*row.member.flag = raw == word::TRUE;
+      *static_cast<bool*>(field) = raw == word::TRUE;
       return;
     case Content::numberType:
-      record.*row.member.numberType = readMember<NumberType::NT>(raw);
-      return;
+      return readMember(raw, *static_cast<NumberType::NT*>(field));
     case Content::targetLog:
-      record.*row.member.targetLog = readMember<CallLogEntryEvent::_LogTarget>(raw);
-      return;
+      return readMember(raw, *static_cast<CallLogEntryEvent::_LogTarget*>(field));
     case Content::presentation:
-      record.*row.member.presentation = readMember<CallLogEntryEvent::_PresentationValue>(raw);
-      return;
+      return readMember(raw, *static_cast<CallLogEntryEvent::_PresentationValue*>(field));
     case Content::timeFormat:
-      record.*row.member.timeFormat = readMember<CallLogEntryEvent::_TFormat>(raw);
-      return;
+      return readMember(raw, *static_cast<CallLogEntryEvent::_TFormat*>(field));
     }
   }
 
 private:
+  JOURNAL_INLINE inline void readText(std::string_view raw, std::string& field) {
+    if (isMissing(raw))
+      field.clear();
+    else
+      field = unescape(raw);
+  }
+
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
   /// the same text always gives the same, asking once for each member's text is enough.
   template <class Enum>
-  JOURNAL_INLINE inline Enum readMember(std::string_view raw) {
-    if (isMissing(raw))
-      return EnumTexts<Enum>::fallback;
+  JOURNAL_INLINE inline void readMember(std::string_view raw, Enum& field) {
+    if (isMissing(raw)) {
+      field = EnumTexts<Enum>::fallback;
+      return;
+    }
     auto const index = indexOfValue<Enum>(raw);
     auto const known = std::get<KnownMembers<Enum>>(known_).members[index];
-    return known != unknown ? static_cast<Enum>(known) : askForMember<Enum>(raw, index);
+    field = known != unknown ? static_cast<Enum>(known) : askForMember<Enum>(raw, index);
   }
 
   template <class Enum>

@@ -34,7 +34,7 @@ enum class Reading {
 /// One element of a record and the field that it carries.
 template <class Record>
 struct Field {
-  /// The field, named by the alternative that its content says.
+  /// The field, by the alternative that its content names.
   union Member {
     std::string Record::*text;
     bool Record::*flag;
@@ -58,6 +58,28 @@ struct Field {
   Writing writing;
   Reading reading;
   std::string_view usual; // the text and close tag that most records hold; empty for none
+
+  /// Where the field is in a record; what stands there, the content says.
+  JOURNAL_INLINE void const* in(Record const& record) const {
+    switch (content) {
+    case Content::flag:
+      return &(record.*member.flag);
+    case Content::numberType:
+      return &(record.*member.numberType);
+    case Content::targetLog:
+      return &(record.*member.targetLog);
+    case Content::presentation:
+      return &(record.*member.presentation);
+    case Content::timeFormat:
+      return &(record.*member.timeFormat);
+    case Content::text:
+      break;
+    }
+    return &(record.*member.text);
+  }
+  JOURNAL_INLINE void* in(Record& record) const {
+    return const_cast<void*>(in(static_cast<Record const&>(record)));
+  }
 };
 
 template <class Value>

@@ -199,18 +199,40 @@ Difference compareElement(std::string const& text, std::string const& name) {
   return {};
 }
 
+Difference compareMessage(std::string const& text, Whole operation) {
+  switch (operation) {
+  case Whole::method:
+    JOURNAL_COMPARE_CALL(getMethodFromXMLMsg(text), text);
+    break;
+  case Whole::failure:
+    JOURNAL_COMPARE_CALL(isNonFailureResponse(text), text);
+    break;
+  case Whole::setting:
+    JOURNAL_COMPARE_CALL(parseXMLEnabledStateItem(text), text);
+    break;
+  case Whole::lastUniqueId:
+    JOURNAL_COMPARE("parseLastUniqueId", text, lastUniqueId<Library>(text),
+                    lastUniqueId<Reference>(text));
+    break;
+  case Whole::envelope:
+    JOURNAL_COMPARE("addXMLHeaderFooter without a name", text, wrapped<Library>(text, ""),
+                    wrapped<Reference>(text, ""));
+    break;
+  case Whole::schema:
+    JOURNAL_COMPARE("addXMLHeaderFooter with a name", text, wrapped<Library>(text, "Name\"<&"),
+                    wrapped<Reference>(text, "Name\"<&"));
+    break;
+  case Whole::success:
+    JOURNAL_COMPARE("addSuccessResp", text, acknowledged<Library>(text),
+                    acknowledged<Reference>(text));
+  }
+  return {};
+}
+
 Difference compareMessage(std::string const& text) {
-  JOURNAL_COMPARE_CALL(getMethodFromXMLMsg(text), text);
-  JOURNAL_COMPARE_CALL(isNonFailureResponse(text), text);
-  JOURNAL_COMPARE_CALL(parseXMLEnabledStateItem(text), text);
-  JOURNAL_COMPARE("parseLastUniqueId", text, lastUniqueId<Library>(text),
-                  lastUniqueId<Reference>(text));
-  JOURNAL_COMPARE("addXMLHeaderFooter without a name", text, wrapped<Library>(text, ""),
-                  wrapped<Reference>(text, ""));
-  JOURNAL_COMPARE("addXMLHeaderFooter with a name", text, wrapped<Library>(text, "Name\"<&"),
-                  wrapped<Reference>(text, "Name\"<&"));
-  JOURNAL_COMPARE("addSuccessResp", text, acknowledged<Library>(text),
-                  acknowledged<Reference>(text));
+  for (int operation = 0; operation < WHOLES; ++operation)
+    if (auto found = compareMessage(text, static_cast<Whole>(operation)); !found.empty())
+      return found;
   return {};
 }
 

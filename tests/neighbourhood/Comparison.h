@@ -46,7 +46,12 @@ Difference compareElement(std::string const& text, std::string const& name, Read
 /// All extractors of one element.
 Difference compareElement(std::string const& text, std::string const& name);
 
-/// Method recognition, the failure word, the call-log setting, the last unique id, the envelope.
+/// What reads a whole message or finishes one.
+enum class Whole { method, failure, setting, lastUniqueId, envelope, schema, success };
+constexpr int WHOLES = 7;
+
+/// One of these operations, or all of them.
+Difference compareMessage(std::string const& text, Whole operation);
 Difference compareMessage(std::string const& text);
 
 /// Escaping, unescaping and one after the other.
@@ -67,16 +72,24 @@ Difference compareDecoder(std::string const& text, Kind kind, Level level, Outpu
 /// All decoders of a kind.
 Difference compareDecoders(std::string const& text, Kind kind, Outputs outputs);
 
-/// All encoders of a kind: body, calls, a log of the entry once and twice, and the notification.
+/// What a notification tells beside the entry, and a log beside the entries.
 struct Notice {
   std::string uniqueIdToDelete;
   JournalServiceObserverIfc::ActionType action = JournalServiceObserverIfc::ENTRY_ADDED;
   unsigned int handle = 0;
 };
-Difference compareEncoders(MissedCallItem const& item, Notice const& notice);
-Difference compareEncoders(DialledCallItem const& item, Notice const& notice);
-Difference compareEncoders(ReceivedCallItem const& item, Notice const& notice);
-Difference compareEncoders(ForwardedCallItem const& item, Notice const& notice);
+
+/// The encoders of one kind; a log is written of no entry, of the entry once and twice.
+enum class Writing { body, uniqueId, calls, notification, log };
+constexpr int WRITINGS = 5;
+
+/// One encoder, for the four kinds of entries.
+template <class Item>
+Difference compareEncoder(Item const& item, Notice const& notice, Writing writing);
+
+/// All encoders.
+template <class Item>
+Difference compareEncoders(Item const& item, Notice const& notice);
 
 /// The reading operations on one text: what reads whole messages, and the decoders of its own kind.
 /// What would be too much for every text takes turns: one decoder of another kind, and of the
