@@ -1,8 +1,10 @@
 // Registers the timing of an operation; see Timing.h.
 #include "Timing.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
+#include <vector>
 
 namespace bench {
 
@@ -13,6 +15,10 @@ bool wrong = false;
 // Of large logs a single operation makes a round, and a few rounds must do.
 constexpr int LARGE_ROUNDS = 7;
 
+double least(std::vector<double> const& times) {
+  return *std::min_element(times.begin(), times.end());
+}
+
 } // namespace
 
 std::string nameOf(std::string const& what, std::string const& kind, std::size_t entries,
@@ -20,10 +26,13 @@ std::string nameOf(std::string const& what, std::string const& kind, std::size_t
   return what + "/" + kind + "/" + std::to_string(entries) + "/" + who;
 }
 
-void registerTiming(std::string const& name, std::size_t entries, Run run) {
-  auto* timing = benchmark::RegisterBenchmark(name.c_str(), std::move(run));
+benchmark::internal::Benchmark* registerTiming(std::string const& name, std::size_t entries,
+                                               Run run) {
+  auto* const timing = benchmark::RegisterBenchmark(name.c_str(), std::move(run));
+  timing->ComputeStatistics("least", least);
   if (entries == LARGE)
     timing->Iterations(1)->Repetitions(LARGE_ROUNDS);
+  return timing;
 }
 
 bool proven(benchmark::State& state, std::string const& name, std::function<bool()> const& check) {

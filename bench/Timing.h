@@ -20,7 +20,8 @@ inline constexpr std::size_t COMPARED_SIZE = 100; // that of everything that has
 std::string nameOf(std::string const& what, std::string const& kind, std::size_t entries,
                    std::string const& who);
 
-void registerTiming(std::string const& name, std::size_t entries, Run run);
+benchmark::internal::Benchmark* registerTiming(std::string const& name, std::size_t entries,
+                                               Run run);
 
 /// Asks check() whether the result of the benchmark of this name is right, the first time that it
 /// runs. A wrong result ends the benchmark and makes the program fail.

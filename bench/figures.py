@@ -37,14 +37,11 @@ class Run:
         for run in results["benchmarks"]:
             if run.get("error_occurred"):
                 raise SystemExit(f"{run['name']}: {run['error_message']}")
-            if run["run_type"] == "iteration":
-                self._add(run)
-
-    def _add(self, run):
-        name = run["run_name"].split("/iterations:")[0]
-        self.times[name] = min(run["cpu_time"], self.times.get(name, run["cpu_time"]))
-        if "message" in run:
-            self.bytes[name] = run["message"]
+            if run.get("aggregate_name") == "least":
+                name = "/".join(run["run_name"].split("/")[:4])
+                self.times[name] = run["cpu_time"]
+                if "message" in run:
+                    self.bytes[name] = run["message"]
 
     def total(self, pattern):
         """The time of all four kinds, the pattern's {} being the kind; None when one is missing."""

@@ -34,11 +34,12 @@ std::string_view entityOf(char special) {
   return {};
 }
 
-Entity const* entityAtFrontOf(std::string_view text) {
+// The entity that an ampersand at the front of a text begins; itself when it begins none.
+Entity entityAtFrontOf(std::string_view text) {
   for (Entity const& entity : entities)
     if (text.substr(0, entity.text.size()) == entity.text)
-      return &entity;
-  return nullptr;
+      return entity;
+  return {'&', "&"};
 }
 
 // Most texts hold nothing to replace. The others are left to these two, so that the way of the many
@@ -57,18 +58,27 @@ Entity const* entityAtFrontOf(std::string_view text) {
   return escaped;
 }
 
-[[gnu::noinline]] std::string unescapedFrom(std::size_t ampersand, std::string_view rest) {
-  std::string unescaped;
-  unescaped.reserve(rest.size());
+// Hands the pieces of an escaped text on: what stands between the entities, and their characters.
+template <class Take>
+void unescape(std::size_t ampersand, std::string_view rest, Take take) {
   while (ampersand != std::string_view::npos) {
-    unescaped += rest.substr(0, ampersand);
+    take(rest.substr(0, ampersand));
     rest.remove_prefix(ampersand);
-    Entity const* const entity = entityAtFrontOf(rest);
-    unescaped += entity != nullptr ? entity->character : '&';
-    rest.remove_prefix(entity != nullptr ? entity->text.size() : 1);
+    Entity const entity = entityAtFrontOf(rest);
+    take({&entity.character, 1});
+    rest.remove_prefix(entity.text.size());
     ampersand = rest.find('&');
   }
-  unescaped += rest;
+  take(rest);
+}
+
+[[gnu::noinline]] std::string unescapedFrom(std::size_t ampersand, std::string_view text) {
+  // Measured first: a name that is short without its entities then takes no memory of its own.
+  std::size_t size = 0;
+  unescape(ampersand, text, [&size](std::string_view piece) { size += piece.size(); });
+  std::string unescaped;
+  unescaped.reserve(size);
+  unescape(ampersand, text, [&unescaped](std::string_view piece) { unescaped += piece; });
   return unescaped;
 }
 

@@ -2,6 +2,7 @@
 // succeeds.
 #include <cstdint>
 #include <iostream>
+#include <list>
 #include <new>
 #include <set>
 #include <string>

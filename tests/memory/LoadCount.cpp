@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t CONSTANTS = 163;
 constexpr std::size_t HELD_INSIDE = 15; // characters that a string of libstdc++ holds in itself
 
-// The part of a file that holds a table of Entry, copied out.
+// A table that stands in a file, copied out.
 template <class Entry>
 std::vector<Entry> tableAt(std::string const& file, std::size_t offset, std::size_t size) {
   std::vector<Entry> table(size / sizeof(Entry));

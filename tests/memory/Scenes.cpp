@@ -56,9 +56,9 @@ Input base() {
 
 // The raw texts go into messages without escaping, where markup would damage them.
 std::string withoutMarkup(std::string text) {
-  for (std::string const markup : {"<markup>"})
-    for (auto at = text.find(markup); at != std::string::npos; at = text.find(markup))
-      text.replace(at, markup.size(), "&lt;markup&gt;");
+  std::string const markup = "<markup>";
+  for (auto at = text.find(markup); at != std::string::npos; at = text.find(markup))
+    text.replace(at, markup.size(), "&lt;markup&gt;");
   return text;
 }
 

@@ -54,7 +54,9 @@ constexpr int WHOLES = 7;
 Difference compareMessage(std::string const& text, Whole operation);
 Difference compareMessage(std::string const& text);
 
-/// Escaping, unescaping and one after the other.
+/// What the utility library does with texts: there, back, and there and back again.
+Difference compareEscaped(std::string const& text);
+Difference compareUnescaped(std::string const& text);
 Difference compareEscaping(std::string const& text);
 
 /// The text as a word or a value: conversions, escaping, and elements built from it.

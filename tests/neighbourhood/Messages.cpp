@@ -194,7 +194,7 @@ std::vector<std::string> valueTokens() {
       "0",
       "-1",
       "+1",
-      " 7",
+      "\t\n\v\f\r 7",
       "1x",
       "-",
       "2147483647",
