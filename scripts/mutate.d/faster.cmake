@@ -1,0 +1,7 @@
+# Makes the libraries' sources compile in a third of the time: what they include is compiled
+# beforehand, and what is marked always_inline, which multiplies unoptimised code, stays out of line.
+cmake_language(DEFER CALL target_compile_options JournalServiceHelper PRIVATE
+  -Dalways_inline=noinline)
+cmake_language(DEFER CALL target_precompile_headers JournalServiceHelper PRIVATE
+  <algorithm> <array> <atomic> <cstddef> <cstdint> <cstring> <deque> <initializer_list> <iterator>
+  <limits> <list> <set> <string> <string_view> <tuple> <utility>)
