@@ -164,7 +164,7 @@ void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly) {
 
 template <class Item>
 void appendEntries(std::deque<Item> const& items, std::string& out) {
-  constexpr std::size_t ahead = 2048; // less than what an answer reserves beyond its expected size
+  constexpr std::size_t ahead = 2048; // some records' worth
   Writer writer(out, ahead);
   for (auto const& item : items) {
     writer.appender.append(element<word::ENTRY>.begin);

@@ -22,7 +22,9 @@ JOURNAL_INLINE inline char* put(char* at, std::string_view text) {
 class Appender {
 public:
   /// @param out keeps what it holds
-  /// @param ahead how much room to make at the least, so that it has to be made less often
+  /// @param ahead how much room to make at a time where memory is reserved, so that it has to be
+  /// made
+  ///        less often
   explicit Appender(std::string& out, std::size_t ahead = 0)
       : out_(out), ahead_(ahead), size_(out.size()) {}
   Appender(Appender const&) = delete;
@@ -36,7 +38,7 @@ public:
   template <class Write>
   void append(std::size_t bound, Write write) {
     if (out_.size() - size_ < bound)
-      out_.resize(size_ + std::max(bound, ahead_));
+      out_.resize(size_ + std::max(bound, std::min(ahead_, out_.capacity() - size_)));
     auto const* const end = write(&out_[size_]);
     size_ = static_cast<std::size_t>(end - out_.data());
   }
