@@ -25,6 +25,13 @@ std::string called(std::string_view name) {
   return std::string(name);
 }
 
+/// Most texts are written without escaping: what looks like markup in them is markup to readers.
+bool holdsTag(std::string_view value) {
+  Nodes const nodes = value.find('<') == std::string_view::npos ? Nodes() : scan(value);
+  return std::any_of(nodes.begin(), nodes.end(),
+                     [](Node const& node) { return findElement(node.name) != nullptr; });
+}
+
 class Checker {
 public:
   Checker(std::string const& message, Nodes const& pieces, Subject const& sort)
@@ -130,6 +137,9 @@ private:
     Row const* const row = place(node);
     if (row == nullptr)
       return;
+    if (holdsTag(node.value))
+      remarks.add(Topic::TAGS, node.offset,
+                  called(node.name) + " holds a tag of the format, readers may take it for one");
     std::string const verdict = judgeValue(row->value, std::string(node.value));
     if (!verdict.empty())
       remarks.add(row->value == Value::NUMBER ? Topic::NUMBER : Topic::VALUE, node.offset,
@@ -203,7 +213,7 @@ private:
                                   [&](Row const& one) { return *one.name == node.name; });
     if (row == part.rows->end()) {
       remarks.add(Topic::ORDER, node.offset,
-                  called(node.name) + " does not belong into " + describe(part.name));
+                  called(node.name) + " does not belong in " + describe(part.name));
       return known;
     }
     advance(part, static_cast<std::size_t>(row - part.rows->begin()), node);

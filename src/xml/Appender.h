@@ -22,9 +22,7 @@ JOURNAL_INLINE inline char* put(char* at, std::string_view text) {
 class Appender {
 public:
   /// @param out keeps what it holds
-  /// @param ahead how much room to make at a time where memory is reserved, so that it has to be
-  /// made
-  ///        less often
+  /// @param ahead how much room to make at a time where memory is reserved
   explicit Appender(std::string& out, std::size_t ahead = 0)
       : out_(out), ahead_(ahead), size_(out.size()) {}
   Appender(Appender const&) = delete;
