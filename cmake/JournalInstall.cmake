@@ -25,6 +25,12 @@ install(FILES
   ${PROJECT_BINARY_DIR}/JournalServiceHelperConfigVersion.cmake
   DESTINATION ${package_dir})
 
+# Told from the place of the pkg-config file, so that an installed tree can be moved.
+file(RELATIVE_PATH pkgconfig_to_prefix
+  ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH prefix_to_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
+file(RELATIVE_PATH prefix_to_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+
 # What a program links: the product's own utility library by its path, the stand-in by its name.
 if(JOURNAL_CLIENTUTILS_LIBRARY)
   set(clientutils_to_link ${JOURNAL_CLIENTUTILS_LIBRARY})

@@ -120,7 +120,7 @@ struct ForwardedCallItem {
     std::string infoKey; ///< the holder's own note; no message carries it
     std::string number;  ///< the remote party's number
     NumberType::NT numberType = NumberType::NO_ICON;
-    std::string connectedNumber; ///< the party to which the call was forwarded
+    std::string connectedNumber; ///< the party actually connected, when it is another
     NumberType::NT connectedNumberType = NumberType::NO_ICON;
     std::string connectedSurname;   ///< written into messages, but never read from them
     std::string connectedFirstName; ///< written into messages, but never read from them

@@ -15,9 +15,9 @@
 // parser, and no error: a missing or damaged element gives the fallback that each operation states.
 //
 // Texts are byte strings holding UTF-8. The operations keep no state (but for a size hint that only
-// reserves memory), never change a text they read (parseLastUniqueId alone does) and may be called
-// from any thread at once. Nothing is thrown but what running out of memory throws. None may run
-// before this library's static initialisation has finished.
+// reserves memory), never change a text passed as const (parseLastUniqueId alone does) and may be
+// called from any thread at once. Nothing is thrown but what running out of memory throws. None may
+// run before this library's static initialisation has finished.
 #ifndef JOURNALSERVICEHELPER_H
 #define JOURNALSERVICEHELPER_H
 
@@ -336,7 +336,8 @@ public:
   ///        as the nearer of the two
   static bool getXMLValue(std::string const& text, std::string const& name, unsigned int& value);
 
-  /// Cuts an element out of a message, tags included.
+  /// Cuts an element out of a message, tags included. To cut out one after the other, go on while
+  /// the text holds the begin tag: without one the result may be true for ever, see text.
   /// @param[in,out] text the message; untouched when the result is false. With the begin tag
   ///        missing and a value delivered all the same, the whole former text, followed once more
   ///        by what stands behind the close tag
@@ -426,7 +427,8 @@ public:
   ///
   /// Writes into the message: a NUL over the "<" of the first "</Entry>" behind the first
   /// "<Entry>", which stays after the call: read as a NUL-terminated text, the message then ends
-  /// there; its length is unchanged. No other thread may use the message during the call.
+  /// there; its length is unchanged. The string itself must not be defined const, and no other
+  /// thread may use it during the call.
   /// @param message the message, up to its first NUL
   /// @param[out] uniqueId the value, unescaped; untouched when the result is false
   /// @return false when no complete Entry is there, or its UniqueId is missing or empty

@@ -175,13 +175,11 @@ private:
       remarks.add(Topic::MISSING, node.offset, "empty " + called(node.name) + ", readers skip it");
   }
 
-  std::string describeUnclosed(Node const& node) const {
+  static std::string describeUnclosed(Node const& node) {
     std::string const front = called(node.name) + " without close tag";
-    if ((node.name != J::ENTRY && node.name != J::ITEM) || !remarks.wants(Topic::TAGS))
+    if (node.name != J::ENTRY && node.name != J::LOGLIST && node.name != J::ITEM)
       return front;
-    bool const closesLater =
-        text.find(J::createXMLClose(called(node.name)), node.offset) != std::string::npos;
-    return front + (closesLater ? ", read as one with what follows" : ", readers drop it");
+    return front + (node.reachesClose ? ", read as one with what follows" : ", readers drop it");
   }
 
   void leave(std::size_t offset) {

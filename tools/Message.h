@@ -23,7 +23,8 @@ struct Node {
   };
   Kind kind = Kind::TEXT;
   std::uint8_t depth = 0;
-  bool closed = true; ///< of a PART: whether its close tag was found
+  bool closed = true;       ///< of a PART: whether its close tag was found
+  bool reachesClose = true; ///< of a PART: whether one closes it for readers, be it another's
   std::string_view name;
   std::string_view value; ///< of a Schema: its name attribute
   std::size_t offset = 0;

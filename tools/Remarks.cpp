@@ -4,14 +4,9 @@
 #include <algorithm>
 #include <ostream>
 
-bool Remarks::wants(Topic topic) const {
-  return counts[static_cast<std::size_t>(topic)] < mostOfATopic;
-}
-
 void Remarks::add(Topic topic, std::size_t offset, std::string const& text) {
-  if (wants(topic))
+  if (counts[static_cast<std::size_t>(topic)]++ < mostOfATopic)
     kept.push_back({offset, text});
-  ++counts[static_cast<std::size_t>(topic)];
 }
 
 void Remarks::print(std::ostream& out) const {

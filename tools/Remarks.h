@@ -14,9 +14,6 @@ enum class Topic { NUL, METHOD, DECLARATION, TAGS, TEXT, ORDER, UNKNOWN, MISSING
 
 class Remarks {
 public:
-  /// @return whether a remark of that sort would still be kept
-  bool wants(Topic topic) const;
-
   void add(Topic topic, std::size_t offset, std::string const& text);
 
   bool empty() const { return kept.empty(); }

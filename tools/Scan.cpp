@@ -178,7 +178,9 @@ private:
       leaveThrough(tag.name, at, false);
     std::size_t const close = findClose(tag.name, tag.end);
     std::size_t const outer = open.empty() ? text.size() : open.back().limit;
-    add(Node::Kind::PART, at, tag.name).value = tag.attribute;
+    Node& part = add(Node::Kind::PART, at, tag.name);
+    part.value = tag.attribute;
+    part.reachesClose = close != npos;
     open.push_back({nodes.size() - 1, close == npos ? outer : close, close != npos});
   }
 

@@ -104,7 +104,8 @@ int run(int argc, char** argv) {
   bool values = false;
   std::vector<std::string> paths;
   app.add_flag("--values", values, "show every field of the entries as readers get it");
-  app.add_option("FILE", paths, "messages; the standard input when there is none, or for -")->type_name("");
+  app.add_option("FILE", paths, "messages; the standard input when there is none, or for -")
+      ->type_name("");
   try {
     app.parse(argc, argv);
   } catch (CLI::ParseError const& error) {

@@ -24,8 +24,9 @@ template <class Item>
 std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, Action action,
                         unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
-  auto message =
-      enveloped({element<word::METHOD>.begin, Kind<Item>::update, element<word::METHOD>.close});
+  // Not enveloped: everything that follows is appended behind the declaration.
+  auto message = joined({word::XMLHEADER, element<word::METHOD>.begin, Kind<Item>::update,
+                         element<word::METHOD>.close});
   appendItemBody(item, message, false);
   if (!uniqueIdToDelete.empty())
     append(message, {removed.begin, uniqueIdToDelete, removed.close});
