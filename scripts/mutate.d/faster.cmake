@@ -1,5 +1,6 @@
-# Makes the libraries' sources compile in a third of the time: what they include is compiled
-# beforehand, and what is marked always_inline, which multiplies unoptimised code, stays out of line.
+# Makes the library's sources compile in a third of the time: what they include is compiled
+# beforehand, and what is marked always_inline, which would multiply unoptimised code, stays out of
+# line.
 cmake_language(DEFER CALL target_compile_options JournalServiceHelper PRIVATE
   -Dalways_inline=noinline)
 cmake_language(DEFER CALL target_precompile_headers JournalServiceHelper PRIVATE
