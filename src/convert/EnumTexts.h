@@ -103,7 +103,7 @@ namespace detail {
 
 constexpr std::size_t slots = 16;
 
-/// A slot of its own for each text of an enumeration, which findTexts makes sure of.
+/// A slot of its own for each text of an enumeration, which candidateFor makes sure of.
 constexpr std::size_t slotOf(std::string_view text) {
   auto const size = text.size();
   auto const ending = static_cast<unsigned char>(text[size - 1]) +
