@@ -11,7 +11,7 @@ namespace {
 constexpr Element methodElement = element<word::METHOD>;
 
 std::string request(std::string_view method) {
-  return enveloped({methodElement.begin, method, methodElement.close});
+  return enveloped({methodElement.begin(), method, methodElement.close()});
 }
 
 // A request about one entry. An empty id leaves a request about no entry.
@@ -19,11 +19,12 @@ std::string request(std::string_view method, std::string const& entryId) {
   constexpr auto id = element<word::ENTRYID>;
   if (entryId.empty())
     return request(method);
-  return enveloped({methodElement.begin, method, methodElement.close, id.begin, entryId, id.close});
+  return enveloped(
+      {methodElement.begin(), method, methodElement.close(), id.begin(), entryId, id.close()});
 }
 
 std::string request(std::string_view method, std::set<std::string> const& entryIds) {
-  return enveloped({methodElement.begin, method, methodElement.close,
+  return enveloped({methodElement.begin(), method, methodElement.close(),
                     JournalServiceHelper::createXMLEntryIDList(entryIds)});
 }
 

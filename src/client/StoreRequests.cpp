@@ -10,7 +10,7 @@ namespace {
 
 std::string request(std::string_view kind, std::string_view schemaName) {
   constexpr auto reason = element<word::REASONFORMESSAGE>;
-  return enveloped({reason.begin, kind, reason.close}, schemaName);
+  return enveloped({reason.begin(), kind, reason.close()}, schemaName);
 }
 
 } // namespace

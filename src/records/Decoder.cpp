@@ -3,8 +3,7 @@
 // The straight road (Forward) takes a text that is exactly what our encoder writes: it reads each
 // element where it is expected. The general road (Cursor) takes any text. An entry that is not
 // straight to its very end is read again on the general road, which sets every field that the
-// straight road may have set; the entry's list is replaced by neither unless the whole entry is
-// read.
+// straight road may have set.
 #include "records/Decoder.h"
 
 #include "records/FieldReader.h"
@@ -14,70 +13,68 @@
 namespace journal {
 namespace {
 
-template <class Item>
-using InfoList = std::list<typename Kind<Item>::Info>;
+/// The records of a kind for a reader that does not know their types, so that there is one reader
+/// for all kinds.
+struct Layout {
+  LoopedRows entry;
+  LoopedRows detail; // in the order in which they are read
+  bool (*takeEntry)(Forward& forward, void* item, FieldReader& reader);
+  bool (*takeDetail)(Forward& forward, void* info, FieldReader& reader);
+  void* (*addItem)(void* items);
+  void (*dropItem)(void* items); // the last one
+  void* (*infosOf)(void* item);
+  void* (*addInfo)(void* infos);
+  void (*clearInfos)(void* infos);
+};
 
-template <class Record>
-JOURNAL_INLINE inline void storeRead(std::string_view raw, Field<Record> const& row, Record& record,
+JOURNAL_INLINE inline void storeRead(std::string_view raw, Field const& row, void* record,
                                      FieldReader& reader) {
   if (row.reading != Reading::discarded)
-    reader.store(raw, row.content, row.in(record));
-}
-
-// An entry without a single call leaves the list as it was.
-template <class Item>
-void replaceList(Item& item, InfoList<Item>& list) {
-  if (!list.empty())
-    item.callInfoList = std::move(list);
+    reader.store(raw, row.content(), row.in(record));
 }
 
 // ---- The general road
 
-template <auto const& rows, class Record>
-void readFields(Cursor& cursor, Record& record, FieldReader& reader) {
-  visitRows<rows, false>([&](Field<Record> const& row, std::size_t) JOURNAL_INLINE {
-    auto const close = row.reading == Reading::unclosed ? row.element.begin : row.element.close;
-    storeRead(cursor.read(row.element.begin, close), row, record, reader);
-    return true;
+void readFields(LoopedRows rows, Cursor& cursor, void* record, FieldReader& reader) {
+  forEach(rows, [&](Field const& row) JOURNAL_INLINE {
+    auto const begin = row.element.begin();
+    auto const close = row.reading == Reading::unclosed ? begin : row.element.close();
+    storeRead(cursor.read(begin, close), row, record, reader);
   });
 }
 
-template <class Item>
-void readInfo(std::string_view text, typename Kind<Item>::Info& info, FieldReader& reader) {
+void readInfo(std::string_view text, Layout const& layout, void* info, FieldReader& reader) {
   Cursor cursor(text);
-  readFields<Kind<Item>::detailRead>(cursor, info, reader);
+  readFields(layout.detail, cursor, info, reader);
 }
 
-template <class Item>
-void readInfoList(std::string_view text, InfoList<Item>& list, FieldReader& reader) {
-  list.clear();
+void readInfos(std::string_view text, Layout const& layout, void* infos, FieldReader& reader) {
+  layout.clearInfos(infos);
   Pieces details(readFirst<word::LOGLIST>(text), element<word::ITEM>);
   while (details.enter()) {
     auto const detail = details.leave();
     if (isMissing(detail))
       return;
     if (!detail.empty())
-      readInfo<Item>(detail, list.emplace_back(), reader);
+      readInfo(detail, layout, layout.addInfo(infos), reader);
   }
 }
 
-template <class Item>
-void readItem(std::string_view text, Item& item, FieldReader& reader) {
+void readItem(std::string_view text, Layout const& layout, void* item, void* infos,
+              FieldReader& reader) {
   Cursor cursor(text);
-  readFields<Kind<Item>::entry>(cursor, item, reader);
-  InfoList<Item> list;
-  readInfoList<Item>(cursor.rest(), list, reader);
-  replaceList(item, list);
+  readFields(layout.entry, cursor, item, reader);
+  readInfos(cursor.rest(), layout, infos, reader);
 }
 
 // ---- The straight road
 
-template <auto const& rows, class Record>
-bool takeFields(Forward& from, Record& record, FieldReader& reader) {
+template <class Rows>
+bool takeFields(Rows rows, Forward& from, void* record, FieldReader& reader) {
   auto forward = from; // of its own, so that it can stay in registers
-  auto const straight = visitRows<rows>([&](Field<Record> const& row, std::size_t) JOURNAL_INLINE {
+  auto const straight = allOf(rows, [&](Field const& row) JOURNAL_INLINE {
     std::string_view raw;
-    if (!forward.take(row.element, row.usual, raw))
+    if (!forward.take(row.element, row.usualText(), raw))
       return false;
     // There is no second begin tag here for an unclosed element to be found by.
     storeRead(row.reading == Reading::unclosed ? missing : raw, row, record, reader);
@@ -87,68 +84,36 @@ bool takeFields(Forward& from, Record& record, FieldReader& reader) {
   return straight;
 }
 
-template <class Item>
-bool takeInfoList(Forward& forward, InfoList<Item>& list, FieldReader& reader) {
-  if (!forward.take(element<word::LOGLIST>.begin))
+bool takeInfos(Forward& forward, Layout const& layout, void* infos, FieldReader& reader) {
+  if (!forward.take(element<word::LOGLIST>.begin()))
     return false;
-  while (forward.take(element<word::ITEM>.begin)) {
-    if (forward.take(element<word::ITEM>.close))
+  while (forward.take(element<word::ITEM>.begin())) {
+    if (forward.take(element<word::ITEM>.close()))
       continue;
-    if (!takeFields<Kind<Item>::detail>(forward, list.emplace_back(), reader) ||
-        !forward.take(element<word::ITEM>.close))
+    if (!layout.takeDetail(forward, layout.addInfo(infos), reader) ||
+        !forward.take(element<word::ITEM>.close()))
       return false;
   }
-  return forward.take(element<word::LOGLIST>.close);
+  return forward.take(element<word::LOGLIST>.close());
 }
 
-template <class Item>
-bool takeItem(Forward& forward, Item& item, InfoList<Item>& list, FieldReader& reader) {
-  return takeFields<Kind<Item>::entry>(forward, item, reader) &&
-         takeInfoList<Item>(forward, list, reader);
+bool takeItem(Forward& forward, Layout const& layout, void* item, void* infos,
+              FieldReader& reader) {
+  return layout.takeEntry(forward, item, reader) && takeInfos(forward, layout, infos, reader);
 }
 
 // ---- Both
 
-} // namespace
-
-template <class Item>
-void readInfo(std::string_view text, typename Kind<Item>::Info& info) {
-  FieldReader reader;
-  Forward forward(text);
-  if (!takeFields<Kind<Item>::detail>(forward, info, reader) || !forward.rest().empty())
-    readInfo<Item>(text, info, reader);
-}
-
-template <class Item>
-bool readInfoList(std::string_view text, std::list<typename Kind<Item>::Info>& list) {
-  FieldReader reader;
-  readInfoList<Item>(text, list, reader);
-  return !list.empty();
-}
-
-template <class Item>
-void readItem(std::string_view text, Item& item) {
-  FieldReader reader;
-  Forward forward(text);
-  InfoList<Item> list;
-  if (takeItem(forward, item, list, reader) && forward.rest().empty())
-    replaceList(item, list);
-  else
-    readItem(text, item, reader);
-}
-
-template <class Item>
-std::string_view readItems(std::string_view text, std::deque<Item>& items) {
-  items.clear();
+std::string_view readItems(std::string_view text, Layout const& layout, void* items) {
   FieldReader reader;
   auto unknown = text;
   Pieces entries(text, element<word::ENTRY>);
   for (auto before = entries.rest(); entries.enter(); before = entries.rest()) {
-    auto& item = items.emplace_back();
+    auto* const item = layout.addItem(items);
+    auto* const infos = layout.infosOf(item);
     Forward forward(entries.rest());
-    InfoList<Item> list;
-    if (takeItem(forward, item, list, reader) && forward.take(element<word::ENTRY>.close)) {
-      replaceList(item, list);
+    if (takeItem(forward, layout, item, infos, reader) &&
+        forward.take(element<word::ENTRY>.close())) {
       auto const skipped = before.substr(0, before.size() - entries.rest().size());
       if (unknown.data() == before.data() && !holds<word::HANDLE>(skipped))
         unknown = forward.rest();
@@ -157,13 +122,73 @@ std::string_view readItems(std::string_view text, std::deque<Item>& items) {
     }
     auto const entry = entries.leave();
     if (isMissing(entry) || entry.empty())
-      items.pop_back();
+      layout.dropItem(items);
     else
-      readItem(entry, item, reader);
+      readItem(entry, layout, item, infos, reader);
     if (isMissing(entry))
       break;
   }
   return unknown;
+}
+
+template <class Item>
+struct Records {
+  using Info = typename Kind<Item>::Info;
+  using Items = std::deque<Item>;
+  using Infos = std::list<Info>;
+
+  static bool takeEntry(Forward& forward, void* item, FieldReader& reader) {
+    return takeFields(rowsOf<Kind<Item>::entry>(), forward, item, reader);
+  }
+  static bool takeDetail(Forward& forward, void* info, FieldReader& reader) {
+    return takeFields(rowsOf<Kind<Item>::detail>(), forward, info, reader);
+  }
+  static void* addItem(void* items) { return &static_cast<Items*>(items)->emplace_back(); }
+  static void dropItem(void* items) { static_cast<Items*>(items)->pop_back(); }
+  static void* infosOf(void* item) { return &static_cast<Item*>(item)->callInfoList; }
+  static void* addInfo(void* infos) { return &static_cast<Infos*>(infos)->emplace_back(); }
+  static void clearInfos(void* infos) { static_cast<Infos*>(infos)->clear(); }
+
+  static constexpr Layout layout = {Kind<Item>::entry, Kind<Item>::detailRead,
+                                    takeEntry,         takeDetail,
+                                    addItem,           dropItem,
+                                    infosOf,           addInfo,
+                                    clearInfos};
+};
+
+} // namespace
+
+template <class Item>
+void readInfo(std::string_view text, typename Kind<Item>::Info& info) {
+  FieldReader reader;
+  Forward forward(text);
+  if (!Records<Item>::takeDetail(forward, &info, reader) || !forward.rest().empty())
+    readInfo(text, Records<Item>::layout, &info, reader);
+}
+
+template <class Item>
+bool readInfoList(std::string_view text, std::list<typename Kind<Item>::Info>& list) {
+  FieldReader reader;
+  readInfos(text, Records<Item>::layout, &list, reader);
+  return !list.empty();
+}
+
+template <class Item>
+void readItem(std::string_view text, Item& item) {
+  FieldReader reader;
+  Forward forward(text);
+  typename Records<Item>::Infos infos;
+  if (!takeItem(forward, Records<Item>::layout, &item, &infos, reader) || !forward.rest().empty())
+    readItem(text, Records<Item>::layout, &item, &infos, reader);
+  // An entry without a single call leaves the list as it was.
+  if (!infos.empty())
+    item.callInfoList.swap(infos);
+}
+
+template <class Item>
+std::string_view readItems(std::string_view text, std::deque<Item>& items) {
+  items.clear();
+  return readItems(text, Records<Item>::layout, &items);
 }
 
 template void readInfo<MissedCallItem>(std::string_view, Kind<MissedCallItem>::Info&);

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "ClientUtils.h"
-#include "convert/EnumTexts.h"
 #include "records/Kinds.h"
 #include "xml/Appender.h"
 #include "xml/Building.h"
@@ -15,132 +14,118 @@
 namespace journal {
 namespace {
 
-JOURNAL_INLINE inline std::string_view textOfField(Content content, void const* field) {
-  switch (content) {
-  case Content::flag:
-    return textOf(*static_cast<bool const*>(field));
-  case Content::numberType:
-    return textOf(*static_cast<NumberType::NT const*>(field));
-  case Content::targetLog:
-    return textOf(*static_cast<CallLogEntryEvent::_LogTarget const*>(field));
-  case Content::presentation:
-    return textOf(*static_cast<CallLogEntryEvent::_PresentationValue const*>(field));
-  case Content::timeFormat:
-    return textOf(*static_cast<CallLogEntryEvent::_TFormat const*>(field));
-  case Content::text:
-    break;
-  }
-  return *static_cast<std::string const*>(field);
+JOURNAL_INLINE inline MemberText const& memberIn(void const* record, Field const& row) {
+  auto const& enumeration = enumerationOf(row.content());
+  if (row.content() == Content::flag)
+    return enumeration.textOf(*static_cast<bool const*>(row.in(record)));
+  Enumeration::Value value;
+  std::memcpy(&value, row.in(record), sizeof value);
+  return enumeration.textOf(value);
 }
 
-template <auto const& rows>
-constexpr std::size_t escapedTexts() {
-  std::size_t count = 0;
-  for (auto const& row : rows)
-    count += row.writing == Writing::escaped ? 1U : 0U;
-  return count;
+/// Writes a member's text as a whole, whatever its size: that takes two instructions.
+JOURNAL_INLINE inline char* put(char* at, MemberText const& text) {
+  std::memcpy(at, std::string_view(text).data(), sizeof text);
+  return at + text.size();
 }
 
-template <auto const& rows>
-constexpr std::size_t sizeOfTags() {
-  std::size_t size = 0;
-  for (auto const& row : rows)
-    size += row.element.begin.size() + row.element.close.size();
-  return size;
-}
-
-/// What one message's encoding keeps.
+/// Writes the records of one message.
 class Writer {
 public:
-  explicit Writer(std::string& out, std::size_t ahead = 0) : appender(out, ahead) {}
+  explicit Writer(std::string& out, std::size_t ahead = 0) : appender_(out, ahead) {}
 
-  /// What the utility library makes of an empty text: an empty one, if it is like others, but it is
-  /// the library's to say. Many names are empty, so it is asked once.
-  std::string_view escapedNothing() {
+  void append(std::string_view text) { appender_.append(text); }
+
+  /// Appends a record's elements, empty ones left out, between two texts.
+  template <class Rows>
+  void append(std::string_view before, Rows rows, void const* record, std::string_view behind) {
+    escape(rows, record);
+    auto const bound = before.size() + boundOf(rows, record) + behind.size();
+    appender_.append(bound, [&](char* at) {
+      return putText(putRecord(putText(at, before), rows, record), behind);
+    });
+  }
+
+private:
+  /// What is written of a text: the text itself or, taking the next in turn, what became of it.
+  using Texts = std::string const*;
+  JOURNAL_INLINE static inline std::string const& textIn(void const* record, Field const& row,
+                                                         Texts& escaped) {
+    return row.writing == Writing::escaped ? *escaped++
+                                           : *static_cast<std::string const*>(row.in(record));
+  }
+
+  template <class Rows>
+  JOURNAL_INLINE inline void escape(Rows rows, void const* record) {
+    auto next = escaped_.begin();
+    forEach(rows, [&](Field const& row) JOURNAL_INLINE {
+      if (row.writing == Writing::escaped)
+        *next++ = escaped(*static_cast<std::string const*>(row.in(record)));
+    });
+  }
+
+  std::string escaped(std::string const& text) {
+    if (!text.empty())
+      return ClientUtils::escapeXMLString(text);
+    // What the utility library makes of an empty text is its to say: an empty one, if it is like
+    // others. Many names are empty, so it is asked once.
     if (!asked_) {
-      nothing_ = ClientUtils::escapeXMLString(nothing_);
+      nothing_ = ClientUtils::escapeXMLString(text);
       asked_ = true;
     }
     return nothing_;
   }
 
-  Appender appender;
-
-private:
-  std::string nothing_;
-  bool asked_ = false;
-};
-
-/// The texts of a record's fields in the order of its rows: views into the record, the vocabulary
-/// and the escaped texts, which are kept here.
-template <auto const& rows, class Record>
-class FieldTexts {
-public:
-  FieldTexts(Record const& record, Writer& writer) {
-    auto nextEscaped = escaped_.begin();
-    visitRows<rows>([&](Field<Record> const& row, std::size_t index) JOURNAL_INLINE {
-      texts_[index] = textOfField(row.content, row.in(record));
-      if (row.writing == Writing::escaped) {
-        if (texts_[index].empty())
-          texts_[index] = writer.escapedNothing();
-        else
-          texts_[index] = *nextEscaped++ = ClientUtils::escapeXMLString(record.*row.member.text);
-      }
-      size_ += texts_[index].size();
-      return true;
+  /// The most that a record's elements can take: all tags and all texts.
+  template <class Rows>
+  JOURNAL_INLINE inline std::size_t boundOf(Rows rows, void const* record) const {
+    std::size_t bound = sizeof(MemberText); // the last one is written as a whole
+    Texts next = escaped_.data();
+    forEach(rows, [&](Field const& row) JOURNAL_INLINE {
+      bound += row.element.begin().size() + row.element.close().size();
+      bound +=
+          row.content() == Content::text ? textIn(record, row, next).size() : sizeof(MemberText);
     });
+    return bound;
   }
 
-  /// The most that the elements can take: all tags and all texts.
-  std::size_t bound() const { return sizeOfTags<rows>() + size_ + MemberText::room; }
-
-  /// Writes the elements, empty ones left out, and returns where they end.
-  JOURNAL_INLINE inline char* put(char* at) const {
-    visitRows<rows>([&](Field<Record> const& row, std::size_t index) JOURNAL_INLINE {
-      auto const text = texts_[index];
-      if (text.empty())
-        return true;
-      at = journal::put(at, row.element.begin);
-      if (row.content == Content::text) {
-        at = journal::put(at, text);
+  template <class Rows>
+  JOURNAL_INLINE inline char* putRecord(char* at, Rows rows, void const* record) const {
+    Texts next = escaped_.data();
+    forEach(rows, [&](Field const& row) JOURNAL_INLINE {
+      if (row.content() == Content::text) {
+        auto const& text = textIn(record, row, next);
+        if (text.empty())
+          return;
+        at = putTag(at, row.element.begin());
+        at = putText(at, text);
       } else {
-        // As a whole, whatever its size: that takes two instructions.
-        std::memcpy(at, text.data(), MemberText::room);
-        at += text.size();
+        at = putTag(at, row.element.begin());
+        at = put(at, memberIn(record, row));
       }
-      at = journal::put(at, row.element.close);
-      return true;
+      at = putTag(at, row.element.close());
     });
     return at;
   }
 
-private:
-  std::array<std::string_view, std::size(rows)> texts_;
-  std::array<std::string, escapedTexts<rows>()> escaped_;
-  std::size_t size_ = 0;
+  Appender appender_;
+  std::array<std::string, 2> escaped_; // a record's, in the order of its rows
+  std::string nothing_;
+  bool asked_ = false;
 };
-
-/// Appends a record's elements between two texts.
-template <auto const& rows, class Record>
-void appendFields(std::string_view before, Record const& record, std::string_view behind,
-                  Writer& writer) {
-  FieldTexts<rows, Record> const fields(record, writer);
-  writer.appender.append(before.size() + fields.bound() + behind.size(),
-                         [&](char* at) { return put(fields.put(put(at, before)), behind); });
-}
 
 template <class Item>
 void appendInfoList(Item const& item, Writer& writer) {
-  writer.appender.append(element<word::LOGLIST>.begin);
+  writer.append(element<word::LOGLIST>.begin());
   for (auto const& info : item.callInfoList)
-    appendFields<Kind<Item>::detail>(element<word::ITEM>.begin, info, element<word::ITEM>.close,
-                                     writer);
-  writer.appender.append(element<word::LOGLIST>.close);
+    writer.append(element<word::ITEM>.begin(), rowsOf<Kind<Item>::detail>(), &info,
+                  element<word::ITEM>.close());
+  writer.append(element<word::LOGLIST>.close());
 }
 
 template <class Item>
 void appendItemBody(Item const& item, Writer& writer) {
-  appendFields<Kind<Item>::entry>("", item, "", writer);
+  writer.append("", rowsOf<Kind<Item>::entry>(), &item, "");
   appendInfoList(item, writer);
 }
 
@@ -158,7 +143,7 @@ void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly) {
     Writer writer(out);
     appendItemBody(item, writer);
   } else if (!item.uniqueId.empty()) {
-    append(out, {element<word::UNIQUEID>.begin, item.uniqueId, element<word::UNIQUEID>.close});
+    append(out, {element<word::UNIQUEID>.begin(), item.uniqueId, element<word::UNIQUEID>.close()});
   }
 }
 
@@ -167,9 +152,9 @@ void appendEntries(std::deque<Item> const& items, std::string& out) {
   constexpr std::size_t ahead = 2048; // some records' worth
   Writer writer(out, ahead);
   for (auto const& item : items) {
-    writer.appender.append(element<word::ENTRY>.begin);
+    writer.append(element<word::ENTRY>.begin());
     appendItemBody(item, writer);
-    writer.appender.append(element<word::ENTRY>.close);
+    writer.append(element<word::ENTRY>.close());
   }
 }
 

@@ -5,6 +5,10 @@
 
 namespace journal {
 
+Enumeration::Value FieldReader::askForMember(std::string_view raw, Enumeration const& enumeration) {
+  return enumeration.memberOf(unescape(raw));
+}
+
 std::string FieldReader::unescape(std::string_view raw) {
   if (raw.size() >= arguments_.size()) {
     longArgument_.assign(raw.data(), raw.size());

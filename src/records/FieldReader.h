@@ -5,12 +5,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
-#include <tuple>
 
-#include "convert/EnumTexts.h"
 #include "records/Fields.h"
+#include "xml/Bytes.h"
 #include "xml/Text.h"
 
 namespace journal {
@@ -18,22 +18,20 @@ namespace journal {
 /// One lives through the decoding of one message.
 class FieldReader {
 public:
+  FieldReader() {
+    for (auto& members : known_)
+      members.fill(unknown);
+  }
+
   /// Stores a raw value, missing or not, in a field.
   JOURNAL_INLINE inline void store(std::string_view raw, Content content, void* field) {
-    switch (content) {
-    case Content::text:
-      return readText(raw, *static_cast<std::string*>(field));
-    case Content::flag:
+    if (content == Content::text) {
+      readText(raw, *static_cast<std::string*>(field));
+    } else if (content == Content::flag) {
       *static_cast<bool*>(field) = raw == word::TRUE;
-      return;
-    case Content::numberType:
-      return readMember(raw, *static_cast<NumberType::NT*>(field));
-    case Content::targetLog:
-      return readMember(raw, *static_cast<CallLogEntryEvent::_LogTarget*>(field));
-    case Content::presentation:
-      return readMember(raw, *static_cast<CallLogEntryEvent::_PresentationValue*>(field));
-    case Content::timeFormat:
-      return readMember(raw, *static_cast<CallLogEntryEvent::_TFormat*>(field));
+    } else {
+      auto const value = memberOf(raw, content);
+      std::memcpy(field, &value, sizeof value);
     }
   }
 
@@ -47,42 +45,34 @@ private:
 
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
   /// the same text always gives the same, asking once for each member's text is enough.
-  template <class Enum>
-  JOURNAL_INLINE inline void readMember(std::string_view raw, Enum& field) {
-    if (isMissing(raw)) {
-      field = EnumTexts<Enum>::fallback;
-      return;
-    }
-    auto const index = indexOfValue<Enum>(raw);
-    auto const known = std::get<KnownMembers<Enum>>(known_).members[index];
-    field = known != unknown ? static_cast<Enum>(known) : askForMember<Enum>(raw, index);
+  JOURNAL_INLINE inline Enumeration::Value memberOf(std::string_view raw, Content content) {
+    auto const& enumeration = enumerationOf(content);
+    if (isMissing(raw))
+      return enumeration.fallback();
+    auto const candidate = enumeration.candidateFor(raw);
+    auto& known = known_[static_cast<std::size_t>(content)][static_cast<std::size_t>(candidate)];
+    if (!isText(raw, enumeration.textOf(candidate)))
+      return askForMember(raw, enumeration);
+    if (known == unknown)
+      known = static_cast<std::int8_t>(askForMember(raw, enumeration));
+    return known;
   }
 
-  template <class Enum>
-  [[gnu::noinline]] Enum askForMember(std::string_view raw, std::size_t index) {
-    auto const member = memberOf<Enum>(unescape(raw));
-    if (index < enumSize<Enum>)
-      std::get<KnownMembers<Enum>>(known_).members[index] = static_cast<std::int8_t>(member);
-    return member;
+  /// Whether a value is a member's text. 16 bytes can be loaded from the value on: it is of 6
+  /// characters at least, like every member's text, and a tag of 12 at least stands behind it.
+  JOURNAL_INLINE static inline bool isText(std::string_view value, MemberText const& member) {
+    return value.size() == member.size() &&
+           sameFront(value.data(), std::string_view(member).data(), value.size());
   }
 
+  [[gnu::noinline]] Enumeration::Value askForMember(std::string_view raw,
+                                                    Enumeration const& enumeration);
   std::string unescape(std::string_view raw);
 
   static constexpr std::int8_t unknown = -1;
 
-  template <class Enum>
-  struct KnownMembers {
-    std::int8_t members[enumSize<Enum> + 1]; // the last, for any other text, is never known
-    constexpr KnownMembers() : members() {
-      for (auto& member : members)
-        member = unknown;
-    }
-  };
-
-  std::tuple<KnownMembers<NumberType::NT>, KnownMembers<CallLogEntryEvent::_LogTarget>,
-             KnownMembers<CallLogEntryEvent::_PresentationValue>,
-             KnownMembers<CallLogEntryEvent::_TFormat>>
-      known_;
+  // What is known of each member's text, by content and value.
+  std::array<std::array<std::int8_t, Enumeration::most>, std::size(enumerations)> known_;
 
   // What the utility library is given. The texts are kept, so that a long value does not allocate
   // another; there is one for each small size, so that only its bytes have to be copied.

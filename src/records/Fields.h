@@ -5,9 +5,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include "CallLogEntryEvent.h"
@@ -19,68 +19,7 @@
 namespace journal {
 
 /// What a field holds, and so how it is written and read.
-enum class Content { text, flag, numberType, targetLog, presentation, timeFormat };
-
-/// Whether a text is escaped when it is written. Every text is unescaped when it is read.
-enum class Writing { raw, escaped };
-
-/// What becomes of an element that is read.
-enum class Reading {
-  stored,
-  discarded, // read over, its field is left alone
-  unclosed   // its begin tag is looked for as its close tag too, so what we write is never found
-};
-
-/// One element of a record and the field that it carries.
-template <class Record>
-struct Field {
-  /// The field, by the alternative that its content names.
-  union Member {
-    std::string Record::*text;
-    bool Record::*flag;
-    NumberType::NT Record::*numberType;
-    CallLogEntryEvent::_LogTarget Record::*targetLog;
-    CallLogEntryEvent::_PresentationValue Record::*presentation;
-    CallLogEntryEvent::_TFormat Record::*timeFormat;
-
-    constexpr Member(std::string Record::*member) : text(member) {}
-    constexpr Member(bool Record::*member) : flag(member) {}
-    constexpr Member(NumberType::NT Record::*member) : numberType(member) {}
-    constexpr Member(CallLogEntryEvent::_LogTarget Record::*member) : targetLog(member) {}
-    constexpr Member(CallLogEntryEvent::_PresentationValue Record::*member)
-        : presentation(member) {}
-    constexpr Member(CallLogEntryEvent::_TFormat Record::*member) : timeFormat(member) {}
-  };
-
-  Element element;
-  Member member;
-  Content content;
-  Writing writing;
-  Reading reading;
-  std::string_view usual; // the text and close tag that most records hold; empty for none
-
-  /// Where the field is in a record; what stands there, the content says.
-  JOURNAL_INLINE void const* in(Record const& record) const {
-    switch (content) {
-    case Content::flag:
-      return &(record.*member.flag);
-    case Content::numberType:
-      return &(record.*member.numberType);
-    case Content::targetLog:
-      return &(record.*member.targetLog);
-    case Content::presentation:
-      return &(record.*member.presentation);
-    case Content::timeFormat:
-      return &(record.*member.timeFormat);
-    case Content::text:
-      break;
-    }
-    return &(record.*member.text);
-  }
-  JOURNAL_INLINE void* in(Record& record) const {
-    return const_cast<void*>(in(static_cast<Record const&>(record)));
-  }
-};
+enum class Content : std::uint8_t { text, flag, numberType, targetLog, presentation, timeFormat };
 
 template <class Value>
 inline constexpr Content contentOf = Content::text;
@@ -95,77 +34,151 @@ inline constexpr Content contentOf<CallLogEntryEvent::_PresentationValue> = Cont
 template <>
 inline constexpr Content contentOf<CallLogEntryEvent::_TFormat> = Content::timeFormat;
 
-/// The row of the element called `name`.
-template <std::string_view const& name, class Record, class Value>
-constexpr Field<Record> field(Value Record::*member, Writing writing = Writing::raw,
-                              Reading reading = Reading::stored) {
-  return {element<name>, member, contentOf<Value>, writing, reading, {}};
+/// The members of every content but texts.
+inline constexpr Enumeration const* enumerations[] = {nullptr,     &flags,         &numberTypes,
+                                                      &targetLogs, &presentations, &timeFormats};
+constexpr Enumeration const& enumerationOf(Content content) {
+  return *enumerations[static_cast<std::size_t>(content)];
 }
 
-namespace detail {
-template <std::string_view const& name, auto value>
-struct UsualText {
-  static constexpr std::string_view close = element<name>.close;
-  static constexpr std::string_view text = EnumTexts<decltype(value)>::texts[value];
+/// Whether a text is escaped when it is written. Every text is unescaped when it is read.
+enum class Writing : std::uint8_t { raw, escaped };
 
-  static constexpr auto make() {
-    std::array<char, text.size() + close.size()> made{};
-    for (std::size_t at = 0; at < made.size(); ++at)
-      made[at] = at < text.size() ? text[at] : close[at - text.size()];
-    return made;
-  }
-  static constexpr auto chars = make();
+/// What becomes of an element that is read.
+enum class Reading : std::uint8_t {
+  stored,
+  discarded, // read over, its field is left alone
+  unclosed   // its begin tag is looked for as its close tag too, so what we write is never found
 };
-} // namespace detail
+
+/// A field's place in its record.
+struct Member {
+  std::uint16_t offset;
+  Content content;
+};
+
+/// One element of a record and the field that it carries. Rows know no record types, so that one
+/// loop serves all of them.
+struct Field {
+  static constexpr std::int8_t none = -1;
+
+  Element element;
+  Member member;
+  Writing writing;
+  Reading reading;
+  std::int8_t usual; // the value that most records hold, or none
+
+  constexpr Content content() const { return member.content; }
+  /// The text of the usual value; empty where code is built for size and does not look for it.
+  constexpr std::string_view usualText() const {
+    if (!builtForSpeed || usual == none)
+      return {};
+    return enumerationOf(content()).textOf(usual);
+  }
+
+  /// Where the field is in a record.
+  void const* in(void const* record) const {
+    return static_cast<char const*>(record) + member.offset;
+  }
+  void* in(void* record) const { return static_cast<char*>(record) + member.offset; }
+};
+
+/// The row of the element called `name`.
+template <std::string_view const& name>
+constexpr Field field(Member member, Writing writing = Writing::raw,
+                      Reading reading = Reading::stored) {
+  return {element<name>, member, writing, reading, Field::none};
+}
 
 /// The row of an element that nearly always carries the same value, which a reader built for speed
 /// looks for first.
-template <std::string_view const& name, auto usual, class Record>
-constexpr Field<Record> mostly(decltype(usual) Record::*member, Reading reading = Reading::stored) {
-  auto row = field<name>(member, Writing::raw, reading);
-  if constexpr (builtForSpeed) {
-    constexpr auto& chars = detail::UsualText<name, usual>::chars;
-    row.usual = {chars.data(), chars.size()};
-  }
-  return row;
+template <std::string_view const& name>
+constexpr Field mostly(Member member, int usual, Reading reading = Reading::stored) {
+  return {element<name>, member, Writing::raw, reading, static_cast<std::int8_t>(usual)};
 }
 
 namespace detail {
-template <class Record, std::size_t size, std::size_t... index>
-constexpr std::array<Field<Record>, size> swapped(Field<Record> const (&rows)[size],
-                                                  std::size_t first, std::size_t second,
-                                                  std::index_sequence<index...>) {
+template <std::size_t size, std::size_t... index>
+constexpr std::array<Field, size> swapped(Field const (&rows)[size], std::size_t first,
+                                          std::size_t second, std::index_sequence<index...>) {
   return {rows[index == first ? second : index == second ? first : index]...};
 }
 } // namespace detail
 
 /// The rows with two of them in each other's place.
-template <class Record, std::size_t size>
-constexpr std::array<Field<Record>, size> swapped(Field<Record> const (&rows)[size],
-                                                  std::size_t first, std::size_t second) {
+template <std::size_t size>
+constexpr std::array<Field, size> swapped(Field const (&rows)[size], std::size_t first,
+                                          std::size_t second) {
   return detail::swapped(rows, first, second, std::make_index_sequence<size>());
 }
 
+// ---- Walks over the rows of a record. forEach calls visit(row) for each row in order; allOf does
+// until one gives false, and tells whether none did.
+
+/// Rows walked in a loop: the smallest code.
+class LoopedRows {
+public:
+  template <class Rows>
+  constexpr LoopedRows(Rows const& rows) : first_(std::data(rows)), size_(std::size(rows)) {}
+
+  constexpr Field const* begin() const { return first_; }
+  constexpr Field const* end() const { return first_ + size_; }
+
+private:
+  Field const* first_;
+  std::size_t size_;
+};
+
+template <class Visit>
+JOURNAL_INLINE inline void forEach(LoopedRows rows, Visit visit) {
+  for (auto const& row : rows)
+    visit(row);
+}
+
+template <class Visit>
+JOURNAL_INLINE inline bool allOf(LoopedRows rows, Visit visit) {
+  for (auto const& row : rows)
+    if (!visit(row))
+      return false;
+  return true;
+}
+
+/// Rows walked without a loop: every tag is a constant of known size, and comparing or copying it
+/// takes a few instructions.
+template <auto const& rows>
+struct UnrolledRows {
+  using Indices = std::make_index_sequence<std::size(rows)>;
+};
+
 namespace detail {
 template <auto const& rows, class Visit, std::size_t... index>
-JOURNAL_INLINE inline bool visitUnrolled(Visit& visit, std::index_sequence<index...>) {
-  return (visit(rows[index], index) && ...);
+JOURNAL_INLINE inline void forEach(Visit& visit, std::index_sequence<index...>) {
+  (visit(rows[index]), ...);
+}
+
+template <auto const& rows, class Visit, std::size_t... index>
+JOURNAL_INLINE inline bool allOf(Visit& visit, std::index_sequence<index...>) {
+  return (visit(rows[index]) && ...);
 }
 } // namespace detail
 
-/// Calls visit(row, its index) for each row in order until one gives false; tells whether none did.
-/// Unrolled, every tag is a constant of known size, and comparing or copying it takes a few
-/// instructions; in a loop, the code is smallest.
-template <auto const& rows, bool unroll = builtForSpeed, class Visit>
-JOURNAL_INLINE inline bool visitRows(Visit visit) {
-  if constexpr (unroll) {
-    return detail::visitUnrolled<rows>(visit, std::make_index_sequence<std::size(rows)>());
-  } else {
-    for (std::size_t index = 0; index < std::size(rows); ++index)
-      if (!visit(rows[index], index))
-        return false;
-    return true;
-  }
+template <auto const& rows, class Visit>
+JOURNAL_INLINE inline void forEach(UnrolledRows<rows>, Visit visit) {
+  detail::forEach<rows>(visit, typename UnrolledRows<rows>::Indices());
+}
+
+template <auto const& rows, class Visit>
+JOURNAL_INLINE inline bool allOf(UnrolledRows<rows>, Visit visit) {
+  return detail::allOf<rows>(visit, typename UnrolledRows<rows>::Indices());
+}
+
+/// The rows as code is built: for speed or for size.
+template <auto const& rows>
+constexpr auto rowsOf() {
+  if constexpr (builtForSpeed)
+    return UnrolledRows<rows>();
+  else
+    return LoopedRows(rows);
 }
 
 } // namespace journal

@@ -34,11 +34,12 @@ template <class Item>
 std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
-  append(message, {element<word::METHOD>.begin, Kind<Item>::method, element<word::METHOD>.close});
+  append(message,
+         {element<word::METHOD>.begin(), Kind<Item>::method, element<word::METHOD>.close()});
   appendEntries(items, message);
   append(message,
-         {element<word::HANDLE>.begin, ClientUtils::itos(static_cast<std::int32_t>(handle)),
-          element<word::HANDLE>.close});
+         {element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
+          element<word::HANDLE>.close()});
   raiseSizeHint(message.size());
   return message;
 }

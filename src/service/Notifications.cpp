@@ -25,22 +25,22 @@ std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, A
                         unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
   // Not enveloped: everything that follows is appended behind the declaration.
-  auto message = joined({word::XMLHEADER, element<word::METHOD>.begin, Kind<Item>::update,
-                         element<word::METHOD>.close});
+  auto message = joined({word::XMLHEADER, element<word::METHOD>.begin(), Kind<Item>::update,
+                         element<word::METHOD>.close()});
   appendItemBody(item, message, false);
   if (!uniqueIdToDelete.empty())
-    append(message, {removed.begin, uniqueIdToDelete, removed.close});
+    append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
   append(message,
-         {element<word::ACTIONTYPE>.begin, digitOf(action), element<word::ACTIONTYPE>.close,
-          element<word::HANDLE>.begin, ClientUtils::itos(static_cast<std::int32_t>(handle)),
-          element<word::HANDLE>.close});
+         {element<word::ACTIONTYPE>.begin(), digitOf(action), element<word::ACTIONTYPE>.close(),
+          element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
+          element<word::HANDLE>.close()});
   return message;
 }
 
 std::string counterUpdate(std::string_view method, unsigned int count) {
-  return enveloped({element<word::METHOD>.begin, method, element<word::METHOD>.close,
-                    element<word::VALUE>.begin, std::to_string(static_cast<std::int32_t>(count)),
-                    element<word::VALUE>.close});
+  return enveloped({element<word::METHOD>.begin(), method, element<word::METHOD>.close(),
+                    element<word::VALUE>.begin(), std::to_string(static_cast<std::int32_t>(count)),
+                    element<word::VALUE>.close()});
 }
 
 } // namespace

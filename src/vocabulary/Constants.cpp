@@ -143,110 +143,116 @@ std::string const JournalServiceHelper::DAS_CALLLOGENABLEDSTATE =
 
 // Begin and close tags.
 std::string const JournalServiceHelper::REASONFORMESSAGE_XML_BEGIN =
-    text(element<word::REASONFORMESSAGE>.begin);
+    text(element<word::REASONFORMESSAGE>.begin());
 std::string const JournalServiceHelper::REASONFORMESSAGE_XML_CLOSE =
-    text(element<word::REASONFORMESSAGE>.close);
-std::string const JournalServiceHelper::METHOD_XML_BEGIN = text(element<word::METHOD>.begin);
-std::string const JournalServiceHelper::METHOD_XML_CLOSE = text(element<word::METHOD>.close);
-std::string const JournalServiceHelper::ENTRY_XML_BEGIN = text(element<word::ENTRY>.begin);
-std::string const JournalServiceHelper::ENTRY_XML_CLOSE = text(element<word::ENTRY>.close);
-std::string const JournalServiceHelper::LOGLIST_XML_BEGIN = text(element<word::LOGLIST>.begin);
-std::string const JournalServiceHelper::LOGLIST_XML_CLOSE = text(element<word::LOGLIST>.close);
-std::string const JournalServiceHelper::ITEM_XML_BEGIN = text(element<word::ITEM>.begin);
-std::string const JournalServiceHelper::ITEM_XML_CLOSE = text(element<word::ITEM>.close);
+    text(element<word::REASONFORMESSAGE>.close());
+std::string const JournalServiceHelper::METHOD_XML_BEGIN = text(element<word::METHOD>.begin());
+std::string const JournalServiceHelper::METHOD_XML_CLOSE = text(element<word::METHOD>.close());
+std::string const JournalServiceHelper::ENTRY_XML_BEGIN = text(element<word::ENTRY>.begin());
+std::string const JournalServiceHelper::ENTRY_XML_CLOSE = text(element<word::ENTRY>.close());
+std::string const JournalServiceHelper::LOGLIST_XML_BEGIN = text(element<word::LOGLIST>.begin());
+std::string const JournalServiceHelper::LOGLIST_XML_CLOSE = text(element<word::LOGLIST>.close());
+std::string const JournalServiceHelper::ITEM_XML_BEGIN = text(element<word::ITEM>.begin());
+std::string const JournalServiceHelper::ITEM_XML_CLOSE = text(element<word::ITEM>.close());
 std::string const JournalServiceHelper::ACTIONTYPE_XML_BEGIN =
-    text(element<word::ACTIONTYPE>.begin);
+    text(element<word::ACTIONTYPE>.begin());
 std::string const JournalServiceHelper::ACTIONTYPE_XML_CLOSE =
-    text(element<word::ACTIONTYPE>.close);
+    text(element<word::ACTIONTYPE>.close());
 std::string const JournalServiceHelper::UNIQUEIDTODELETE_XML_BEGIN =
-    text(element<word::UNIQUEIDTODELETE>.begin);
+    text(element<word::UNIQUEIDTODELETE>.begin());
 std::string const JournalServiceHelper::UNIQUEIDTODELETE_XML_CLOSE =
-    text(element<word::UNIQUEIDTODELETE>.close);
-std::string const JournalServiceHelper::UNIQUEID_XML_BEGIN = text(element<word::UNIQUEID>.begin);
-std::string const JournalServiceHelper::UNIQUEID_XML_CLOSE = text(element<word::UNIQUEID>.close);
-std::string const JournalServiceHelper::ENTRYID_XML_BEGIN = text(element<word::ENTRYID>.begin);
-std::string const JournalServiceHelper::ENTRYID_XML_CLOSE = text(element<word::ENTRYID>.close);
-std::string const JournalServiceHelper::SURNAME_XML_BEGIN = text(element<word::SURNAME>.begin);
-std::string const JournalServiceHelper::SURNAME_XML_CLOSE = text(element<word::SURNAME>.close);
-std::string const JournalServiceHelper::FIRSTNAME_XML_BEGIN = text(element<word::FIRSTNAME>.begin);
-std::string const JournalServiceHelper::FIRSTNAME_XML_CLOSE = text(element<word::FIRSTNAME>.close);
-std::string const JournalServiceHelper::PICTURE_XML_BEGIN = text(element<word::PICTURE>.begin);
-std::string const JournalServiceHelper::PICTURE_XML_CLOSE = text(element<word::PICTURE>.close);
-std::string const JournalServiceHelper::JSGROUPBY_XML_BEGIN = text(element<word::JSGROUPBY>.begin);
-std::string const JournalServiceHelper::JSGROUPBY_XML_CLOSE = text(element<word::JSGROUPBY>.close);
-std::string const JournalServiceHelper::NUMBER_XML_BEGIN = text(element<word::NUMBER>.begin);
-std::string const JournalServiceHelper::NUMBER_XML_CLOSE = text(element<word::NUMBER>.close);
+    text(element<word::UNIQUEIDTODELETE>.close());
+std::string const JournalServiceHelper::UNIQUEID_XML_BEGIN = text(element<word::UNIQUEID>.begin());
+std::string const JournalServiceHelper::UNIQUEID_XML_CLOSE = text(element<word::UNIQUEID>.close());
+std::string const JournalServiceHelper::ENTRYID_XML_BEGIN = text(element<word::ENTRYID>.begin());
+std::string const JournalServiceHelper::ENTRYID_XML_CLOSE = text(element<word::ENTRYID>.close());
+std::string const JournalServiceHelper::SURNAME_XML_BEGIN = text(element<word::SURNAME>.begin());
+std::string const JournalServiceHelper::SURNAME_XML_CLOSE = text(element<word::SURNAME>.close());
+std::string const JournalServiceHelper::FIRSTNAME_XML_BEGIN =
+    text(element<word::FIRSTNAME>.begin());
+std::string const JournalServiceHelper::FIRSTNAME_XML_CLOSE =
+    text(element<word::FIRSTNAME>.close());
+std::string const JournalServiceHelper::PICTURE_XML_BEGIN = text(element<word::PICTURE>.begin());
+std::string const JournalServiceHelper::PICTURE_XML_CLOSE = text(element<word::PICTURE>.close());
+std::string const JournalServiceHelper::JSGROUPBY_XML_BEGIN =
+    text(element<word::JSGROUPBY>.begin());
+std::string const JournalServiceHelper::JSGROUPBY_XML_CLOSE =
+    text(element<word::JSGROUPBY>.close());
+std::string const JournalServiceHelper::NUMBER_XML_BEGIN = text(element<word::NUMBER>.begin());
+std::string const JournalServiceHelper::NUMBER_XML_CLOSE = text(element<word::NUMBER>.close());
 std::string const JournalServiceHelper::NUMBERTYPE_XML_BEGIN =
-    text(element<word::NUMBERTYPE>.begin);
+    text(element<word::NUMBERTYPE>.begin());
 std::string const JournalServiceHelper::NUMBERTYPE_XML_CLOSE =
-    text(element<word::NUMBERTYPE>.close);
+    text(element<word::NUMBERTYPE>.close());
 std::string const JournalServiceHelper::RESOLVEDNUMBER_XML_BEGIN =
-    text(element<word::RESOLVEDNUMBER>.begin);
+    text(element<word::RESOLVEDNUMBER>.begin());
 std::string const JournalServiceHelper::RESOLVEDNUMBER_XML_CLOSE =
-    text(element<word::RESOLVEDNUMBER>.close);
+    text(element<word::RESOLVEDNUMBER>.close());
 std::string const JournalServiceHelper::CONNECTEDNUMBER_XML_BEGIN =
-    text(element<word::CONNECTEDNUMBER>.begin);
+    text(element<word::CONNECTEDNUMBER>.begin());
 std::string const JournalServiceHelper::CONNECTEDNUMBER_XML_CLOSE =
-    text(element<word::CONNECTEDNUMBER>.close);
+    text(element<word::CONNECTEDNUMBER>.close());
 std::string const JournalServiceHelper::CONNECTEDNUMBERPRIORITY_XML_BEGIN =
-    text(element<word::CONNECTEDNUMBERPRIORITY>.begin);
+    text(element<word::CONNECTEDNUMBERPRIORITY>.begin());
 std::string const JournalServiceHelper::CONNECTEDNUMBERPRIORITY_XML_CLOSE =
-    text(element<word::CONNECTEDNUMBERPRIORITY>.close);
+    text(element<word::CONNECTEDNUMBERPRIORITY>.close());
 std::string const JournalServiceHelper::CONNECTEDNUMBERTYPE_XML_BEGIN =
-    text(element<word::CONNECTEDNUMBERTYPE>.begin);
+    text(element<word::CONNECTEDNUMBERTYPE>.begin());
 std::string const JournalServiceHelper::CONNECTEDNUMBERTYPE_XML_CLOSE =
-    text(element<word::CONNECTEDNUMBERTYPE>.close);
+    text(element<word::CONNECTEDNUMBERTYPE>.close());
 std::string const JournalServiceHelper::CONNECTEDSURNAME_XML_BEGIN =
-    text(element<word::CONNECTEDSURNAME>.begin);
+    text(element<word::CONNECTEDSURNAME>.begin());
 std::string const JournalServiceHelper::CONNECTEDSURNAME_XML_CLOSE =
-    text(element<word::CONNECTEDSURNAME>.close);
+    text(element<word::CONNECTEDSURNAME>.close());
 std::string const JournalServiceHelper::CONNECTEDFIRSTNAME_XML_BEGIN =
-    text(element<word::CONNECTEDFIRSTNAME>.begin);
+    text(element<word::CONNECTEDFIRSTNAME>.begin());
 std::string const JournalServiceHelper::CONNECTEDFIRSTNAME_XML_CLOSE =
-    text(element<word::CONNECTEDFIRSTNAME>.close);
-std::string const JournalServiceHelper::TIMEDATE_XML_BEGIN = text(element<word::TIMEDATE>.begin);
-std::string const JournalServiceHelper::TIMEDATE_XML_CLOSE = text(element<word::TIMEDATE>.close);
-std::string const JournalServiceHelper::DURATION_XML_BEGIN = text(element<word::DURATION>.begin);
-std::string const JournalServiceHelper::DURATION_XML_CLOSE = text(element<word::DURATION>.close);
-std::string const JournalServiceHelper::TARGETLOG_XML_BEGIN = text(element<word::TARGETLOG>.begin);
-std::string const JournalServiceHelper::TARGETLOG_XML_CLOSE = text(element<word::TARGETLOG>.close);
+    text(element<word::CONNECTEDFIRSTNAME>.close());
+std::string const JournalServiceHelper::TIMEDATE_XML_BEGIN = text(element<word::TIMEDATE>.begin());
+std::string const JournalServiceHelper::TIMEDATE_XML_CLOSE = text(element<word::TIMEDATE>.close());
+std::string const JournalServiceHelper::DURATION_XML_BEGIN = text(element<word::DURATION>.begin());
+std::string const JournalServiceHelper::DURATION_XML_CLOSE = text(element<word::DURATION>.close());
+std::string const JournalServiceHelper::TARGETLOG_XML_BEGIN =
+    text(element<word::TARGETLOG>.begin());
+std::string const JournalServiceHelper::TARGETLOG_XML_CLOSE =
+    text(element<word::TARGETLOG>.close());
 std::string const JournalServiceHelper::NUMBERPRESENTATION_XML_BEGIN =
-    text(element<word::NUMBERPRESENTATION>.begin);
+    text(element<word::NUMBERPRESENTATION>.begin());
 std::string const JournalServiceHelper::NUMBERPRESENTATION_XML_CLOSE =
-    text(element<word::NUMBERPRESENTATION>.close);
+    text(element<word::NUMBERPRESENTATION>.close());
 std::string const JournalServiceHelper::NAMEPRESENTATION_XML_BEGIN =
-    text(element<word::NAMEPRESENTATION>.begin);
+    text(element<word::NAMEPRESENTATION>.begin());
 std::string const JournalServiceHelper::NAMEPRESENTATION_XML_CLOSE =
-    text(element<word::NAMEPRESENTATION>.close);
+    text(element<word::NAMEPRESENTATION>.close());
 std::string const JournalServiceHelper::TIMEFORMAT_XML_BEGIN =
-    text(element<word::TIMEFORMAT>.begin);
+    text(element<word::TIMEFORMAT>.begin());
 std::string const JournalServiceHelper::TIMEFORMAT_XML_CLOSE =
-    text(element<word::TIMEFORMAT>.close);
-std::string const JournalServiceHelper::VIEWED_XML_BEGIN = text(element<word::VIEWED>.begin);
-std::string const JournalServiceHelper::VIEWED_XML_CLOSE = text(element<word::VIEWED>.close);
+    text(element<word::TIMEFORMAT>.close());
+std::string const JournalServiceHelper::VIEWED_XML_BEGIN = text(element<word::VIEWED>.begin());
+std::string const JournalServiceHelper::VIEWED_XML_CLOSE = text(element<word::VIEWED>.close());
 std::string const JournalServiceHelper::DEFLECTNUMBERPRESENTATION_XML_BEGIN =
-    text(element<word::DEFLECTNUMBERPRESENTATION>.begin);
+    text(element<word::DEFLECTNUMBERPRESENTATION>.begin());
 std::string const JournalServiceHelper::DEFLECTNUMBERPRESENTATION_XML_CLOSE =
-    text(element<word::DEFLECTNUMBERPRESENTATION>.close);
+    text(element<word::DEFLECTNUMBERPRESENTATION>.close());
 std::string const JournalServiceHelper::DEFLECTNUMBER_XML_BEGIN =
-    text(element<word::DEFLECTNUMBER>.begin);
+    text(element<word::DEFLECTNUMBER>.begin());
 std::string const JournalServiceHelper::DEFLECTNUMBER_XML_CLOSE =
-    text(element<word::DEFLECTNUMBER>.close);
+    text(element<word::DEFLECTNUMBER>.close());
 std::string const JournalServiceHelper::DEFLECTNUMBERTYPE_XML_BEGIN =
-    text(element<word::DEFLECTNUMBERTYPE>.begin);
+    text(element<word::DEFLECTNUMBERTYPE>.begin());
 std::string const JournalServiceHelper::DEFLECTNUMBERTYPE_XML_CLOSE =
-    text(element<word::DEFLECTNUMBERTYPE>.close);
+    text(element<word::DEFLECTNUMBERTYPE>.close());
 std::string const JournalServiceHelper::DEFLECTNAMEPRESENTATION_XML_BEGIN =
-    text(element<word::DEFLECTNAMEPRESENTATION>.begin);
+    text(element<word::DEFLECTNAMEPRESENTATION>.begin());
 std::string const JournalServiceHelper::DEFLECTNAMEPRESENTATION_XML_CLOSE =
-    text(element<word::DEFLECTNAMEPRESENTATION>.close);
+    text(element<word::DEFLECTNAMEPRESENTATION>.close());
 std::string const JournalServiceHelper::DEFLECTNAME_XML_BEGIN =
-    text(element<word::DEFLECTNAME>.begin);
+    text(element<word::DEFLECTNAME>.begin());
 std::string const JournalServiceHelper::DEFLECTNAME_XML_CLOSE =
-    text(element<word::DEFLECTNAME>.close);
-std::string const JournalServiceHelper::HANDLE_XML_BEGIN = text(element<word::HANDLE>.begin);
-std::string const JournalServiceHelper::HANDLE_XML_CLOSE = text(element<word::HANDLE>.close);
+    text(element<word::DEFLECTNAME>.close());
+std::string const JournalServiceHelper::HANDLE_XML_BEGIN = text(element<word::HANDLE>.begin());
+std::string const JournalServiceHelper::HANDLE_XML_CLOSE = text(element<word::HANDLE>.close());
 std::string const JournalServiceHelper::ENABLED_XML_BEGIN =
-    text(element<word::CALL_LOG_ENABLED>.begin);
+    text(element<word::CALL_LOG_ENABLED>.begin());
 std::string const JournalServiceHelper::ENABLED_XML_CLOSE =
-    text(element<word::CALL_LOG_ENABLED>.close);
+    text(element<word::CALL_LOG_ENABLED>.close());

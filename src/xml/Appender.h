@@ -8,13 +8,20 @@
 #include <string>
 #include <string_view>
 
+#include "xml/Bytes.h"
 #include "xml/Inline.h"
 
 namespace journal {
 
-/// Copies a text to `at`, which has room for it, and returns where it ends.
-JOURNAL_INLINE inline char* put(char* at, std::string_view text) {
-  std::memcpy(at, text.data(), text.size());
+/// Copies a tag to `at`, which has room for it, and returns where it ends.
+JOURNAL_INLINE inline char* putTag(char* at, std::string_view tag) {
+  std::memcpy(at, tag.data(), tag.size());
+  return at + tag.size();
+}
+
+/// Copies a text of a size that only the data knows.
+JOURNAL_INLINE inline char* putText(char* at, std::string_view text) {
+  copyBytes(at, text.data(), text.size());
   return at + text.size();
 }
 
@@ -41,8 +48,8 @@ public:
     size_ = static_cast<std::size_t>(end - out_.data());
   }
 
-  void append(std::string_view text) {
-    append(text.size(), [text](char* at) { return put(at, text); });
+  void append(std::string_view tag) {
+    append(tag.size(), [tag](char* at) { return putTag(at, tag); });
   }
 
 private:

@@ -34,6 +34,20 @@ JOURNAL_INLINE inline bool sameWords(char const* left, char const* right, std::s
   return difference == 0;
 }
 
+/// Copies two words, which overlap when there is not enough for both.
+template <class Word>
+JOURNAL_INLINE inline void copyEnds(char* to, char const* from, std::size_t size) {
+  auto const last = size - sizeof(Word);
+  auto const front = load<Word>(from);
+  auto const back = load<Word>(from + last);
+  std::memcpy(to, &front, sizeof front);
+  std::memcpy(to + last, &back, sizeof back);
+}
+
+struct Pair {
+  std::uint64_t words[2];
+};
+
 #ifdef __SSE2__
 
 /// As many bytes as are looked at at once, and where among them the first `byte` is.
@@ -80,6 +94,37 @@ JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::s
   if (size < sizeof(std::uint64_t))
     return detail::sameWords<std::uint32_t>(left, right, size);
   return detail::sameWords<std::uint64_t>(left, right, size);
+}
+
+/// Compares the first `size` bytes of two places from which 16 can be loaded.
+JOURNAL_INLINE inline bool sameFront(char const* left, char const* right, std::size_t size) {
+  constexpr std::size_t most = 16;
+  if (!builtForSpeed)
+    return std::memcmp(left, right, size) == 0;
+  static constexpr unsigned char window[2 * most] = {0xff, 0xff, 0xff, 0xff, 0xff, 0xff,
+                                                     0xff, 0xff, 0xff, 0xff, 0xff, 0xff,
+                                                     0xff, 0xff, 0xff, 0xff};
+  auto const* const mask = reinterpret_cast<char const*>(window) + most - size;
+  std::uint64_t difference = 0;
+  for (std::size_t at = 0; at < most; at += sizeof difference)
+    difference |= (load<std::uint64_t>(left + at) ^ load<std::uint64_t>(right + at)) &
+                  load<std::uint64_t>(mask + at);
+  return difference == 0;
+}
+
+/// Copies bytes, mostly few, of a size that only the data knows.
+JOURNAL_INLINE inline void copyBytes(char* to, char const* from, std::size_t size) {
+  if (!builtForSpeed || size > 2 * sizeof(detail::Pair))
+    std::memcpy(to, from, size);
+  else if (size >= sizeof(detail::Pair))
+    detail::copyEnds<detail::Pair>(to, from, size);
+  else if (size >= sizeof(std::uint64_t))
+    detail::copyEnds<std::uint64_t>(to, from, size);
+  else if (size >= sizeof(std::uint32_t))
+    detail::copyEnds<std::uint32_t>(to, from, size);
+  else
+    for (std::size_t at = 0; at < size; ++at)
+      to[at] = from[at];
 }
 
 /// The first `byte` in front of `end`; `end` when there is none.

@@ -41,13 +41,13 @@ private:
 /// The raw value of the first element called `name` in a text.
 template <std::string_view const& name>
 std::string_view readFirst(std::string_view text) {
-  return Cursor(text).read(element<name>.begin, element<name>.close);
+  return Cursor(text).read(element<name>.begin(), element<name>.close());
 }
 
 /// Whether a text holds the begin tag of an element called `name`.
 template <std::string_view const& name>
 bool holds(std::string_view text) {
-  return text.find(element<name>.begin) != std::string_view::npos;
+  return text.find(element<name>.begin()) != std::string_view::npos;
 }
 
 /// Cuts a text into pieces: the inside of one element after the other, each ending at its first
@@ -58,20 +58,20 @@ public:
 
   /// Goes behind the next begin tag; tells whether there is one.
   bool enter() {
-    auto const begin = rest_.find(element_.begin);
+    auto const begin = rest_.find(element_.begin());
     if (begin == std::string_view::npos)
       return false;
-    rest_.remove_prefix(begin + element_.begin.size());
+    rest_.remove_prefix(begin + element_.begin().size());
     return true;
   }
 
   /// The piece up to the next close tag; missing when there is none. Goes behind the close tag.
   std::string_view leave() {
-    auto const close = rest_.find(element_.close);
+    auto const close = rest_.find(element_.close());
     if (close == std::string_view::npos)
       return missing;
     auto const piece = rest_.substr(0, close);
-    rest_.remove_prefix(close + element_.close.size());
+    rest_.remove_prefix(close + element_.close().size());
     return piece;
   }
 

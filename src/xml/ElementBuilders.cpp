@@ -32,13 +32,13 @@ std::string JournalServiceHelper::createXMLField(std::string const& name, bool v
 std::string JournalServiceHelper::createXMLSchemaField(std::string const& name) {
   if (name.empty())
     return {};
-  return joined({element<word::SCHEMA>.begin, name});
+  return joined({element<word::SCHEMA>.begin(), name});
 }
 
 std::string JournalServiceHelper::createXMLEntryIDList(std::set<std::string> const& ids) {
   std::string list;
   for (std::string const& id : ids)
     if (!id.empty())
-      append(list, {element<word::ENTRYID>.begin, id, element<word::ENTRYID>.close});
+      append(list, {element<word::ENTRYID>.begin(), id, element<word::ENTRYID>.close()});
   return list;
 }

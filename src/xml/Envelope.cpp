@@ -32,14 +32,14 @@ std::string enveloped(Pieces body, std::string_view schemaName) {
   auto const schemaSize = schemaName.empty() ? 0
                                              : word::SCHEMA_NAMED_BEGIN.size() + schemaName.size() +
                                                    word::SCHEMA_NAMED_END.size() +
-                                                   element<word::SCHEMA>.close.size();
+                                                   element<word::SCHEMA>.close().size();
   message.reserve(word::XMLHEADER.size() + sizeOf(body) + schemaSize);
   message.append(word::XMLHEADER);
   if (!schemaName.empty())
     append(message, {word::SCHEMA_NAMED_BEGIN, schemaName, word::SCHEMA_NAMED_END});
   append(message, body);
   if (!schemaName.empty())
-    message.append(element<word::SCHEMA>.close);
+    message.append(element<word::SCHEMA>.close());
   return message;
 }
 
@@ -51,6 +51,6 @@ void JournalServiceHelper::addXMLHeaderFooter(std::string& message, std::string 
 
 bool JournalServiceHelper::addSuccessResp(std::string& message) {
   using namespace journal;
-  append(message, {element<word::VALUE>.begin, word::SUCCESS, element<word::VALUE>.close});
+  append(message, {element<word::VALUE>.begin(), word::SUCCESS, element<word::VALUE>.close()});
   return true;
 }

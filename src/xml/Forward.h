@@ -33,27 +33,25 @@ public:
 
   /// Reads an element if one can stand here: its value, or missing when its begin tag is not here.
   /// Gives false when another tag than its close tag follows the value.
-  /// @param usual a value and close tag that nearly always stand here, or nothing. Looking for them
-  ///        first spares the processor to wait for the value's end before it can go on
+  /// @param usual a value that nearly always stands here, or an empty one. Looking for it first
+  ///        spares the processor to wait for the value's end before it can go on
   JOURNAL_INLINE inline bool take(Element const& element, std::string_view usual,
                                   std::string_view& value) {
-    auto const tags = element.begin.size() + element.close.size();
-    if (left() < tags || !sameBytes(at_, element.begin.data(), element.begin.size())) {
+    auto const begin = element.begin();
+    auto const close = element.close();
+    if (left() < begin.size() + close.size() || !sameBytes(at_, begin.data(), begin.size())) {
       value = missing;
       return true;
     }
-    auto const* const front = at_ + element.begin.size();
-    if (!usual.empty() && static_cast<std::size_t>(end_ - front) >= usual.size() &&
-        sameBytes(front, usual.data(), usual.size())) {
-      value = {front, usual.size() - element.close.size()};
-      at_ = front + usual.size();
-      return true;
-    }
-    auto const* const last = end_ - element.close.size(); // where the close tag can start
-    auto const* const close = findByte(front, last, '<');
-    value = {front, static_cast<std::size_t>(close - front)};
-    at_ = close + element.close.size();
-    return sameBytes(close, element.close.data(), element.close.size());
+    auto const* const front = at_ + begin.size();
+    auto const* const last = end_ - close.size(); // where the close tag can start
+    auto const isUsual = !usual.empty() && static_cast<std::size_t>(last - front) >= usual.size() &&
+                         sameBytes(front, usual.data(), usual.size()) &&
+                         sameBytes(front + usual.size(), close.data(), close.size());
+    auto const* const end = isUsual ? front + usual.size() : findByte(front, last, '<');
+    value = {front, static_cast<std::size_t>(end - front)};
+    at_ = end + close.size();
+    return isUsual || sameBytes(end, close.data(), close.size());
   }
 
 private:

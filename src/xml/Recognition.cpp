@@ -49,8 +49,8 @@ constexpr Method methods[] = {
 
 JournalServiceHelper::MethodCode
 JournalServiceHelper::getMethodFromXMLMsg(std::string const& message) {
-  auto const begin = message.find(element<word::METHOD>.begin);
-  auto const close = message.find(element<word::METHOD>.close);
+  auto const begin = message.find(element<word::METHOD>.begin());
+  auto const close = message.find(element<word::METHOD>.close());
   if (begin == std::string::npos || close == std::string::npos)
     return UNKNOWN_METHOD;
   // With the close tag in front of the begin tag the difference wraps, and the search runs to the
@@ -64,11 +64,11 @@ JournalServiceHelper::getMethodFromXMLMsg(std::string const& message) {
 
 bool JournalServiceHelper::parseLastUniqueId(std::string const& message, std::string& uniqueId) {
   auto const text = viewOf(message.c_str());
-  auto const begin = text.find(element<word::ENTRY>.begin);
+  auto const begin = text.find(element<word::ENTRY>.begin());
   if (begin == std::string_view::npos)
     return false;
-  auto const entry = begin + element<word::ENTRY>.begin.size();
-  auto const close = text.find(element<word::ENTRY>.close, entry);
+  auto const entry = begin + element<word::ENTRY>.begin().size();
+  auto const close = text.find(element<word::ENTRY>.close(), entry);
   if (close == std::string_view::npos)
     return false;
   // Written into the caller's text on purpose, for clients that rely on its ending here afterwards.
