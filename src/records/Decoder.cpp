@@ -104,6 +104,25 @@ bool takeItem(Forward& forward, Layout const& layout, void* item, void* infos,
 
 // ---- Both
 
+void readInfo(std::string_view text, Layout const& layout, void* info) {
+  FieldReader reader;
+  Forward forward(text);
+  if (!layout.takeDetail(forward, info, reader) || !forward.rest().empty())
+    readInfo(text, layout, info, reader);
+}
+
+void readInfos(std::string_view text, Layout const& layout, void* infos) {
+  FieldReader reader;
+  readInfos(text, layout, infos, reader);
+}
+
+void readItem(std::string_view text, Layout const& layout, void* item, void* infos) {
+  FieldReader reader;
+  Forward forward(text);
+  if (!takeItem(forward, layout, item, infos, reader) || !forward.rest().empty())
+    readItem(text, layout, item, infos, reader);
+}
+
 std::string_view readItems(std::string_view text, Layout const& layout, void* items) {
   FieldReader reader;
   auto unknown = text;
@@ -160,26 +179,19 @@ struct Records {
 
 template <class Item>
 void readInfo(std::string_view text, typename Kind<Item>::Info& info) {
-  FieldReader reader;
-  Forward forward(text);
-  if (!Records<Item>::takeDetail(forward, &info, reader) || !forward.rest().empty())
-    readInfo(text, Records<Item>::layout, &info, reader);
+  readInfo(text, Records<Item>::layout, &info);
 }
 
 template <class Item>
 bool readInfoList(std::string_view text, std::list<typename Kind<Item>::Info>& list) {
-  FieldReader reader;
-  readInfos(text, Records<Item>::layout, &list, reader);
+  readInfos(text, Records<Item>::layout, &list);
   return !list.empty();
 }
 
 template <class Item>
 void readItem(std::string_view text, Item& item) {
-  FieldReader reader;
-  Forward forward(text);
   typename Records<Item>::Infos infos;
-  if (!takeItem(forward, Records<Item>::layout, &item, &infos, reader) || !forward.rest().empty())
-    readItem(text, Records<Item>::layout, &item, &infos, reader);
+  readItem(text, Records<Item>::layout, &item, &infos);
   // An entry without a single call leaves the list as it was.
   if (!infos.empty())
     item.callInfoList.swap(infos);

@@ -114,48 +114,77 @@ private:
   bool asked_ = false;
 };
 
+/// The records of a kind for a writer that does not know their types.
+struct Layout {
+  void (*appendFields)(Writer& writer, void const* item);
+  void (*appendInfos)(Writer& writer, void const* item);
+};
+
 template <class Item>
-void appendInfoList(Item const& item, Writer& writer) {
+struct Records {
+  static void appendFields(Writer& writer, void const* item) {
+    writer.append("", rowsOf<Kind<Item>::entry>(), item, "");
+  }
+  static void appendInfos(Writer& writer, void const* item) {
+    for (auto const& info : static_cast<Item const*>(item)->callInfoList)
+      writer.append(element<word::ITEM>.begin(), rowsOf<Kind<Item>::detail>(), &info,
+                    element<word::ITEM>.close());
+  }
+  static constexpr Layout layout = {appendFields, appendInfos};
+};
+
+void appendInfoList(Writer& writer, Layout const& layout, void const* item) {
   writer.append(element<word::LOGLIST>.begin());
-  for (auto const& info : item.callInfoList)
-    writer.append(element<word::ITEM>.begin(), rowsOf<Kind<Item>::detail>(), &info,
-                  element<word::ITEM>.close());
+  layout.appendInfos(writer, item);
   writer.append(element<word::LOGLIST>.close());
 }
 
-template <class Item>
-void appendItemBody(Item const& item, Writer& writer) {
-  writer.append("", rowsOf<Kind<Item>::entry>(), &item, "");
-  appendInfoList(item, writer);
+void appendItemBody(Writer& writer, Layout const& layout, void const* item) {
+  layout.appendFields(writer, item);
+  appendInfoList(writer, layout, item);
+}
+
+void appendEntry(Writer& writer, Layout const& layout, void const* item) {
+  writer.append(element<word::ENTRY>.begin());
+  appendItemBody(writer, layout, item);
+  writer.append(element<word::ENTRY>.close());
+}
+
+// ---- One message, or a part of it
+
+void appendInfoList(Layout const& layout, void const* item, std::string& out) {
+  Writer writer(out);
+  appendInfoList(writer, layout, item);
+}
+
+void appendItemBody(Layout const& layout, void const* item, std::string const& uniqueId,
+                    std::string& out, bool uniqueIdOnly) {
+  if (!uniqueIdOnly) {
+    Writer writer(out);
+    appendItemBody(writer, layout, item);
+  } else if (!uniqueId.empty()) {
+    append(out, {element<word::UNIQUEID>.begin(), uniqueId, element<word::UNIQUEID>.close()});
+  }
 }
 
 } // namespace
 
 template <class Item>
 void appendInfoList(Item const& item, std::string& out) {
-  Writer writer(out);
-  appendInfoList(item, writer);
+  appendInfoList(Records<Item>::layout, &item, out);
 }
 
 template <class Item>
 void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly) {
-  if (!uniqueIdOnly) {
-    Writer writer(out);
-    appendItemBody(item, writer);
-  } else if (!item.uniqueId.empty()) {
-    append(out, {element<word::UNIQUEID>.begin(), item.uniqueId, element<word::UNIQUEID>.close()});
-  }
+  appendItemBody(Records<Item>::layout, &item, item.uniqueId, out, uniqueIdOnly);
 }
 
 template <class Item>
 void appendEntries(std::deque<Item> const& items, std::string& out) {
   constexpr std::size_t ahead = 2048; // some records' worth
   Writer writer(out, ahead);
-  for (auto const& item : items) {
-    writer.append(element<word::ENTRY>.begin());
-    appendItemBody(item, writer);
-    writer.append(element<word::ENTRY>.close());
-  }
+  for (auto const& item : items)
+    appendEntry(writer, Records<Item>::layout, &item);
 }
 
 template void appendEntries(std::deque<MissedCallItem> const&, std::string&);

@@ -8,8 +8,8 @@
 
 namespace journal {
 
-// Entries hold a std::list, which makes offsetof of their members conditionally supported: compilers
-// may refuse it, but none that meets a class without virtual bases does.
+// Entries hold a std::list, which makes offsetof of their members conditionally supported:
+// compilers may refuse it, but none that meets a class without virtual bases does.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 

@@ -30,17 +30,25 @@ void raiseSizeHint(std::size_t size) {
     continue;
 }
 
-template <class Item>
-std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
+std::string begun(std::string_view method) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
-  append(message,
-         {element<word::METHOD>.begin(), Kind<Item>::method, element<word::METHOD>.close()});
-  appendEntries(items, message);
+  append(message, {element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
+  return message;
+}
+
+void finish(std::string& message, unsigned int handle) {
   append(message,
          {element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
           element<word::HANDLE>.close()});
   raiseSizeHint(message.size());
+}
+
+template <class Item>
+std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
+  auto message = begun(Kind<Item>::method);
+  appendEntries(items, message);
+  finish(message, handle);
   return message;
 }
 

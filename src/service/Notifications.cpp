@@ -20,20 +20,29 @@ std::string_view digitOf(Action action) {
   return word::DIGITS.substr(static_cast<std::size_t>(digit), 1);
 }
 
-template <class Item>
-std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, Action action,
-                        unsigned int handle) {
+// Not enveloped: everything that follows is appended behind the declaration.
+std::string begun(std::string_view method) {
+  return joined(
+      {word::XMLHEADER, element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
+}
+
+void finish(std::string& message, std::string const& uniqueIdToDelete, Action action,
+            unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
-  // Not enveloped: everything that follows is appended behind the declaration.
-  auto message = joined({word::XMLHEADER, element<word::METHOD>.begin(), Kind<Item>::update,
-                         element<word::METHOD>.close()});
-  appendItemBody(item, message, false);
   if (!uniqueIdToDelete.empty())
     append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
   append(message,
          {element<word::ACTIONTYPE>.begin(), digitOf(action), element<word::ACTIONTYPE>.close(),
           element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
           element<word::HANDLE>.close()});
+}
+
+template <class Item>
+std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, Action action,
+                        unsigned int handle) {
+  auto message = begun(Kind<Item>::update);
+  appendItemBody(item, message, false);
+  finish(message, uniqueIdToDelete, action, handle);
   return message;
 }
 
