@@ -28,10 +28,10 @@ std::size_t firstSpecial(std::string_view text) {
 }
 
 std::string_view entityOf(char special) {
-  for (Entity const& entity : entities)
-    if (entity.character == special)
-      return entity.text;
-  return {};
+  auto const* entity = entities;
+  while (entity->character != special)
+    ++entity;
+  return entity->text;
 }
 
 // The entity that an ampersand at the front of a text begins; itself when it begins none.

@@ -48,29 +48,34 @@ public:
 
 private:
   /// What is written of a text: the text itself or, taking the next in turn, what became of it.
-  using Texts = std::string const*;
-  JOURNAL_INLINE static inline std::string const& textIn(void const* record, Field const& row,
-                                                         Texts& escaped) {
+  using Texts = std::string_view const*;
+  JOURNAL_INLINE static inline std::string_view textIn(void const* record, Field const& row,
+                                                       Texts& escaped) {
     return row.writing == Writing::escaped ? *escaped++
                                            : *static_cast<std::string const*>(row.in(record));
   }
 
   template <class Rows>
   JOURNAL_INLINE inline void escape(Rows rows, void const* record) {
-    auto next = escaped_.begin();
+    std::size_t next = 0;
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
-      if (row.writing == Writing::escaped)
-        *next++ = escaped(*static_cast<std::string const*>(row.in(record)));
+      if (row.writing != Writing::escaped)
+        return;
+      auto const& text = *static_cast<std::string const*>(row.in(record));
+      escaped_[next] = text.empty() ? escapedNothing() : keep(next, text);
+      ++next;
     });
   }
 
-  std::string escaped(std::string const& text) {
-    if (!text.empty())
-      return ClientUtils::escapeXMLString(text);
-    // What the utility library makes of an empty text is its to say: an empty one, if it is like
-    // others. Many names are empty, so it is asked once.
+  std::string_view keep(std::size_t index, std::string const& text) {
+    return kept_[index] = ClientUtils::escapeXMLString(text);
+  }
+
+  /// What the utility library makes of an empty text is its to say: an empty one, if it is like
+  /// others. Many names are empty, so it is asked once.
+  JOURNAL_INLINE inline std::string_view escapedNothing() {
     if (!asked_) {
-      nothing_ = ClientUtils::escapeXMLString(text);
+      nothing_ = ClientUtils::escapeXMLString(nothing_);
       asked_ = true;
     }
     return nothing_;
@@ -94,7 +99,7 @@ private:
     Texts next = escaped_.data();
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
       if (row.content() == Content::text) {
-        auto const& text = textIn(record, row, next);
+        auto const text = textIn(record, row, next);
         if (text.empty())
           return;
         at = putTag(at, row.element.begin());
@@ -109,7 +114,9 @@ private:
   }
 
   Appender appender_;
-  std::array<std::string, 2> escaped_; // a record's, in the order of its rows
+  // A record's escaped texts, in the order of its rows, and what keeps those that are not empty.
+  std::array<std::string_view, 2> escaped_;
+  std::array<std::string, 2> kept_;
   std::string nothing_;
   bool asked_ = false;
 };

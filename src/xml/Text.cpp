@@ -9,7 +9,9 @@
 namespace journal {
 
 std::string unescaped(std::string_view raw) {
-  return isMissing(raw) ? std::string() : ClientUtils::unescapeXMLString(std::string(raw));
+  if (isMissing(raw))
+    return {};
+  return ClientUtils::unescapeXMLString(std::string(raw));
 }
 
 std::int32_t numberAtFrontOf(std::string_view text) {

@@ -128,4 +128,18 @@ TEST(Threads, NeverLowerTheReservationForAnswers) {
   EXPECT_EQ(reservedForAnswer(), longest + ROOM_TO_GROW);
 }
 
+TEST(Threads, KeepTheLongestReservationWhenEachAnswerRaisesIt) {
+  constexpr std::size_t answers = 1500;
+  std::atomic<std::size_t> next{reservedForAnswer()};
+  std::atomic<std::size_t> longest{0};
+  inAllThreads([&](std::size_t) {
+    for (std::size_t answer = 0; answer < answers; ++answer) {
+      std::deque<MissedCallItem> log(1);
+      log.front().picture.assign(next++, 'p');
+      raise(longest, Library::respGetMissedCallList(log, 0).size());
+    }
+  });
+  EXPECT_EQ(reservedForAnswer(), longest + ROOM_TO_GROW);
+}
+
 } // namespace
