@@ -2,6 +2,7 @@
 #include "ClientUtils.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace {
@@ -15,9 +16,17 @@ constexpr Entity entities[] = {
     {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"},
 };
 
+// A bit for each special character; all their codes are below 64, and few others' are.
+constexpr std::uint64_t specials = [] {
+  std::uint64_t bits = 0;
+  for (Entity const& entity : entities)
+    bits |= std::uint64_t{1} << entity.character;
+  return bits;
+}();
+
 constexpr bool isSpecial(char character) {
-  return character == '&' || character == '<' || character == '>' || character == '"' ||
-         character == '\'';
+  auto const code = static_cast<unsigned char>(character);
+  return code < 64 && (specials >> code & 1) != 0;
 }
 
 std::size_t firstSpecial(std::string_view text) {

@@ -41,9 +41,8 @@ public:
   void append(std::string_view before, Rows rows, void const* record, std::string_view behind) {
     escape(rows, record);
     auto const bound = before.size() + boundOf(rows, record) + behind.size();
-    appender_.append(bound, [&](char* at) {
-      return putText(putRecord(putText(at, before), rows, record), behind);
-    });
+    auto* const fields = putTag(appender_.room(bound), before);
+    appender_.endAt(putTag(putRecord(fields, rows, record), behind));
   }
 
 private:

@@ -38,19 +38,18 @@ public:
   /// Gives back the room that nothing was written to.
   ~Appender() { out_.resize(size_); }
 
-  /// Appends what `write` puts: it gets a place with room for `bound` characters and returns where
-  /// it ended. It must not throw.
-  template <class Write>
-  void append(std::size_t bound, Write write) {
+  /// A place behind the text with room for `bound` characters. What is written there becomes a part
+  /// of the text with endAt.
+  JOURNAL_INLINE inline char* room(std::size_t bound) {
     if (out_.size() - size_ < bound)
       out_.resize(size_ + std::max(bound, std::min(ahead_, out_.capacity() - size_)));
-    auto const* const end = write(&out_[size_]);
-    size_ = static_cast<std::size_t>(end - out_.data());
+    return &out_[size_];
   }
 
-  void append(std::string_view tag) {
-    append(tag.size(), [tag](char* at) { return putTag(at, tag); });
-  }
+  /// Ends the text where writing ended.
+  void endAt(char const* end) { size_ = static_cast<std::size_t>(end - out_.data()); }
+
+  void append(std::string_view tag) { endAt(putTag(room(tag.size()), tag)); }
 
 private:
   std::string& out_;
