@@ -17,7 +17,7 @@ std::string FieldReader::unescape(std::string_view raw) {
   auto& argument = arguments_[raw.size()];
   if (argument.size() != raw.size())
     argument.resize(raw.size());
-  raw.copy(argument.data(), raw.size());
+  copyBytes(argument.data(), raw.data(), raw.size());
   return ClientUtils::unescapeXMLString(argument);
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -40,7 +41,19 @@ private:
     if (isMissing(raw))
       field.clear();
     else
-      field = unescape(raw);
+      replace(field, raw);
+  }
+
+  /// Makes a text anew in its own place, which spares moving it there. The text is empty if there
+  /// is no memory for it.
+  void replace(std::string& field, std::string_view raw) {
+    field.~basic_string();
+    try {
+      ::new (&field) std::string(unescape(raw));
+    } catch (...) {
+      ::new (&field) std::string();
+      throw;
+    }
   }
 
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
