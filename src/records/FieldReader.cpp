@@ -1,24 +1,36 @@
 // Turns the raw values of elements into the values of fields.
 #include "records/FieldReader.h"
 
+#include <new>
+
 #include "ClientUtils.h"
 
 namespace journal {
 
-Enumeration::Value FieldReader::askForMember(std::string_view raw, Enumeration const& enumeration) {
-  return enumeration.memberOf(unescape(raw));
-}
-
-std::string FieldReader::unescape(std::string_view raw) {
-  if (raw.size() >= arguments_.size()) {
-    longArgument_.assign(raw.data(), raw.size());
-    return ClientUtils::unescapeXMLString(longArgument_);
-  }
+JOURNAL_INLINE inline std::string const& FieldReader::argument(std::string_view raw) {
+  if (raw.size() >= arguments_.size())
+    return longArgument_.assign(raw.data(), raw.size());
   auto& argument = arguments_[raw.size()];
   if (argument.size() != raw.size())
     argument.resize(raw.size());
   copyBytes(argument.data(), raw.data(), raw.size());
-  return ClientUtils::unescapeXMLString(argument);
+  return argument;
+}
+
+Enumeration::Value FieldReader::askForMember(std::string_view raw, Enumeration const& enumeration) {
+  return enumeration.memberOf(ClientUtils::unescapeXMLString(argument(raw)));
+}
+
+void FieldReader::replace(std::string& text, std::string_view raw) {
+  auto const& escaped = argument(raw);
+  // Made anew in its own place, which spares moving it there.
+  text.~basic_string();
+  try {
+    ::new (&text) std::string(ClientUtils::unescapeXMLString(escaped));
+  } catch (...) {
+    ::new (&text) std::string();
+    throw;
+  }
 }
 
 } // namespace journal

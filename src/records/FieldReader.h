@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <new>
 #include <string>
 #include <string_view>
 
@@ -44,18 +43,6 @@ private:
       replace(field, raw);
   }
 
-  /// Makes a text anew in its own place, which spares moving it there. The text is empty if there
-  /// is no memory for it.
-  void replace(std::string& field, std::string_view raw) {
-    field.~basic_string();
-    try {
-      ::new (&field) std::string(unescape(raw));
-    } catch (...) {
-      ::new (&field) std::string();
-      throw;
-    }
-  }
-
   /// The utility library alone knows what unescaping does to a text, to a member's text too; but as
   /// the same text always gives the same, asking once for each member's text is enough.
   JOURNAL_INLINE inline Enumeration::Value memberOf(std::string_view raw, Content content) {
@@ -80,7 +67,10 @@ private:
 
   [[gnu::noinline]] Enumeration::Value askForMember(std::string_view raw,
                                                     Enumeration const& enumeration);
-  std::string unescape(std::string_view raw);
+  /// Puts what the utility library makes of a value in a text's place. The text is empty if there
+  /// is no memory for it.
+  void replace(std::string& text, std::string_view raw);
+  std::string const& argument(std::string_view raw);
 
   static constexpr std::int8_t unknown = -1;
 
