@@ -133,10 +133,9 @@ class Finder:
         if before == '::' and self.text(at - 2) == 'word':
             yield self.replace('word', at, at, self.words[token.text])
         elif token.text in NAMES:
-            # A name that is declared here, and the begin() of a container, stay as they are.
+            # A name that is declared here stays as it is.
             declared = re.match(r'[\w>&*]', before[-1:]) and before not in ('return', 'case')
-            member = token.text in ('begin', 'close') and behind == '('
-            if not declared and not member:
+            if not declared:
                 yield self.replace('name', at, at, NAMES[token.text])
         elif token.text in self.members and behind != '=' and \
                 (before == '::' or token.text.isupper()):
@@ -149,7 +148,7 @@ class Finder:
         opening = self.end_of(at, '(', ';')
         closing = self.match.get(opening, opening)
         row = self.between(opening, closing - 1)
-        if row.startswith('(&') and ',' not in row:
+        if re.fullmatch(r'\(MEMBER\([^)]*\)', row):
             for flags in ('Writing::escaped', 'Writing::raw, Reading::discarded'):
                 yield self.replace('flag', opening, closing, f'{row}, {flags})')
 

@@ -3,6 +3,7 @@
 #ifndef JOURNAL_XML_BYTES_H
 #define JOURNAL_XML_BYTES_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -97,17 +98,25 @@ JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::s
   return detail::sameWords<std::uint64_t>(left, right, size);
 }
 
+namespace detail {
+inline constexpr std::size_t frontSize = 16;
+
+/// Ones, then zeros: read from `frontSize` less n on, a mask for the first n bytes.
+inline constexpr auto frontMasks = [] {
+  std::array<char, 2 * frontSize> masks{};
+  for (std::size_t at = 0; at < frontSize; ++at)
+    masks[at] = '\xff';
+  return masks;
+}();
+} // namespace detail
+
 /// Compares the first `size` bytes of two places from which 16 can be loaded.
 JOURNAL_INLINE inline bool sameFront(char const* left, char const* right, std::size_t size) {
-  constexpr std::size_t most = 16;
   if (!builtForSpeed)
     return std::memcmp(left, right, size) == 0;
-  static constexpr unsigned char window[2 * most] = {0xff, 0xff, 0xff, 0xff, 0xff, 0xff,
-                                                     0xff, 0xff, 0xff, 0xff, 0xff, 0xff,
-                                                     0xff, 0xff, 0xff, 0xff};
-  auto const* const mask = reinterpret_cast<char const*>(window) + most - size;
+  auto const* const mask = detail::frontMasks.data() + detail::frontSize - size;
   std::uint64_t difference = 0;
-  for (std::size_t at = 0; at < most; at += sizeof difference)
+  for (std::size_t at = 0; at < detail::frontSize; at += sizeof difference)
     difference |= (load<std::uint64_t>(left + at) ^ load<std::uint64_t>(right + at)) &
                   load<std::uint64_t>(mask + at);
   return difference == 0;
