@@ -214,6 +214,14 @@ TEST(ConvertTargetLog, WritesSixSevenAndMinusOneAlike) {
   EXPECT_EQ("OUT_BUSY", J::convertTargetLog(static_cast<Event::_LogTarget>(-1)));
 }
 
+// In memory of its own, so that a sanitizer sees whatever is read in front of it.
+TEST(ConvertNumberType, LooksAtNothingInFrontOfAShortText) {
+  for (std::string text : {"", "x"}) {
+    text.reserve(1000);
+    EXPECT_EQ(NumberType::NO_ICON, J::convertNumberType(text));
+  }
+}
+
 TEST(ConvertNumberType, DoesNotKnowTheWordsOfOtherEnumerations) {
   for (char const* text : {"IN_BUSY", "ALLOWED", "FORM_AM", "OUT_ANSWERED", "NOT_ALLOWED"})
     EXPECT_EQ(NumberType::NO_ICON, J::convertNumberType(std::string(text))) << text;
