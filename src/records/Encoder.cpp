@@ -83,7 +83,7 @@ private:
   /// The most that a record's elements can take: all tags and all texts.
   template <class Rows>
   JOURNAL_INLINE inline std::size_t boundOf(Rows rows, void const* record) const {
-    std::size_t bound = sizeof(MemberText); // the last one is written as a whole
+    std::size_t bound = 0;
     Texts next = escaped_.data();
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
       bound += row.element.begin().size() + row.element.close().size();

@@ -1,0 +1,88 @@
+// Texts that are nearly what a writer writes: a reader on the straight road must not be taken in,
+// and texts that keep a reader searching must not keep it long.
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "records/TestedKinds.h"
+#include "reference/Reference.h"
+
+namespace {
+
+using Size = std::string::size_type;
+
+void readPlainly(std::string const& text, MissedCallItem& item) {
+  Reference::parseXMLMissedCallItem(text, item);
+}
+void readPlainly(std::string const& text, DialledCallItem& item) {
+  Reference::parseXMLDialledCallItem(text, item);
+}
+void readPlainly(std::string const& text, ReceivedCallItem& item) {
+  Reference::parseXMLReceivedCallItem(text, item);
+}
+void readPlainly(std::string const& text, ForwardedCallItem& item) {
+  Reference::parseXMLForwardedCallItem(text, item);
+}
+
+std::vector<Size> placesOf(std::string const& text, std::string const& wanted) {
+  std::vector<Size> places;
+  for (Size at = 0; (at = text.find(wanted, at)) != std::string::npos; ++at)
+    places.push_back(at);
+  return places;
+}
+
+template <typename KindType>
+class Lookalikes : public ::testing::Test {
+protected:
+  using Item = typename KindType::Item;
+
+  static std::string body() { return golden::message(std::string(KindType::NAME) + "-full"); }
+
+  static void expectAsPlainReader(std::string const& text) {
+    Item expected;
+    Item item;
+    readPlainly(text, expected);
+    EXPECT_TRUE(KindType::readItemText(text, item));
+    EXPECT_EQ(expected, item) << text;
+  }
+};
+
+TYPED_TEST_SUITE(Lookalikes, kinds::All, kinds::KindNames);
+
+TYPED_TEST(Lookalikes, AreNotReadWhereCloseTagsAreMisspelt) {
+  auto const body = this->body();
+  auto const closeTags = placesOf(body, "</");
+  ASSERT_GT(closeTags.size(), 10U);
+  auto all = body;
+  for (auto const at : closeTags) {
+    auto one = body;
+    one[at + 2] = all[at + 2] = '?';
+    this->expectAsPlainReader(one);
+  }
+  this->expectAsPlainReader(all);
+}
+
+TYPED_TEST(Lookalikes, AreNotReadWhereACloseTagStandsBehindAnEmptyItem) {
+  this->expectAsPlainReader("<LogList><Item></Item></Item></LogList>");
+  this->expectAsPlainReader("<LogList><Item></Item><Number>1</Number></Item></LogList>");
+}
+
+// Each piece makes a reader look for a close tag that is nowhere. One that looked again for each
+// would not end in the life of a test run; how long it takes is not measured here.
+TYPED_TEST(Lookalikes, OfPiecesWithoutAnEndAreGivenUpAtOnce) {
+  constexpr int pieces = 400000;
+  std::string items;
+  std::string entries;
+  for (int piece = 0; piece < pieces; ++piece) {
+    items += "<Item>";
+    entries += "<Entry>";
+  }
+  typename TypeParam::InfoList calls(1);
+  EXPECT_FALSE(TypeParam::readCalls(("<LogList>" + items + "</LogList>").c_str(), calls));
+  EXPECT_TRUE(calls.empty());
+  typename TypeParam::Log log(1);
+  EXPECT_TRUE(TypeParam::readLog(entries, log));
+  EXPECT_TRUE(log.empty());
+}
+
+} // namespace
