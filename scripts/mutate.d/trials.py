@@ -58,6 +58,7 @@ class Tests:
         self.folder, self.build = folder, build
         self.programs = {}  # command line of a GoogleTest program -> names of its slow suites
         self.others = []
+        self.own = set()  # programs that are built from the libraries' sources themselves
         self.seconds = {}
         shown = subprocess.run(['ctest', '--show-only=json-v1'], cwd=folder, check=True,
                                capture_output=True, text=True)
@@ -81,16 +82,28 @@ class Tests:
         self.run(FEW_TEXTS)
 
     def run(self, env):
-        self.quick()
+        for program in self.programs:
+            self.run_program(program, ['--gtest_filter=-' + self.pattern(self.programs[program])], {})
         self.slow(env)
+        self.rest()
+
+    def rest(self):
         for name in self.others:
             self.timed(['ctest', '-R', f'^{re.escape(name)}$'], {}, name)
 
-    def quick(self, since=0.0):
-        """The quick suites of the programs that were built after some time."""
+    def quick(self, since=None):
+        """The quick suites: of the programs that only use the libraries, or of those that were built
+        after some time. The latter are built from the libraries' sources themselves; until they are
+        built anew they are still what an earlier mutant made of them."""
+        if since is not None:
+            self.own.update(program for program in self.programs if self.built(program) >= since)
         for program, slow in self.programs.items():
-            if max(os.path.getmtime(word) for word in program if os.path.isfile(word)) >= since:
+            if (program in self.own) == (since is not None):
                 self.run_program(program, ['--gtest_filter=-' + self.pattern(slow)], {})
+
+    @staticmethod
+    def built(program):
+        return max(os.path.getmtime(word) for word in program if os.path.isfile(word))
 
     def slow(self, env):
         for program, slow in self.programs.items():
@@ -202,7 +215,8 @@ class Copy:
                 built = time.time()
                 self.ninja(PLAIN)  # the programs that compile the sources once more
                 tests.quick(built)
-                tests.run(FEW_TEXTS)
+                tests.slow(FEW_TEXTS)
+                tests.rest()
             except Failed as failed:
                 return 'killed', str(failed)
         return 'survived', ''
