@@ -36,7 +36,13 @@ class Lookalikes : public ::testing::Test {
 protected:
   using Item = typename KindType::Item;
 
-  static std::string body() { return golden::message(std::string(KindType::NAME) + "-full"); }
+  // An entry with one call, every element of both there and none with a "<" in it.
+  static std::string body() {
+    auto text = golden::message(std::string(KindType::NAME) + "-full");
+    text = text.substr(0, text.find("</Item>")) + "</Item></LogList>";
+    auto const markup = text.find("<1>");
+    return markup == std::string::npos ? text : text.replace(markup, 3, "1");
+  }
 
   static void expectAsPlainReader(std::string const& text) {
     Item expected;
@@ -52,14 +58,17 @@ TYPED_TEST_SUITE(Lookalikes, kinds::All, kinds::KindNames);
 TYPED_TEST(Lookalikes, AreNotReadWhereCloseTagsAreMisspelt) {
   auto const body = this->body();
   auto const closeTags = placesOf(body, "</");
+  auto const item = body.find("</Item>");
   ASSERT_GT(closeTags.size(), 10U);
-  auto all = body;
+  auto fields = body;
   for (auto const at : closeTags) {
     auto one = body;
-    one[at + 2] = all[at + 2] = '?';
+    one[at + 2] = '?';
     this->expectAsPlainReader(one);
+    if (at < item)
+      fields[at + 2] = '?';
   }
-  this->expectAsPlainReader(all);
+  this->expectAsPlainReader(fields);
 }
 
 TYPED_TEST(Lookalikes, AreNotReadWhereACloseTagStandsBehindAnEmptyItem) {
