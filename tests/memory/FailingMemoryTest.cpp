@@ -212,4 +212,33 @@ TEST_F(FailingMemory, EachAllocationOfEachOperation) {
             << didNotAllocate.size() << " allocate nothing\n";
 }
 
+// What a field held before is given up before its new text is made, so the field must be whole
+// again when there is no memory for that.
+TEST(FailingMemoryOfOneRecord, LeavesFieldsThatHeldLongTextsUsable) {
+  std::string const before(100, 'b');
+  std::string const text = "<Number>" + std::string(200, 'n') + "</Number><DeflectName>" +
+                           std::string(300, 'd') + "</DeflectName>";
+  auto const live = allocations::live();
+  long injected = 0;
+  bool failed = true;
+  for (long nth = 1; failed; ++nth) {
+    MissedCallItem::MissedCallInfo call;
+    call.number = call.timeDate = call.deflectName = before;
+    failed = false;
+    try {
+      allocations::Failure const failure(nth, Failing::once);
+      JournalServiceHelper::getXMLMissedCallInfo(text.c_str(), call);
+    } catch (std::bad_alloc const&) {
+      failed = true;
+      ++injected;
+    }
+    for (auto const* field : {&call.number, &call.timeDate, &call.deflectName})
+      EXPECT_EQ(std::string(*field).size(), field->size());
+    EXPECT_TRUE(failed || call.deflectName.size() == 300) << nth;
+    EXPECT_TRUE(call.number.empty() || call.number == before || call.number[0] == 'n') << nth;
+  }
+  EXPECT_GT(injected, 1);
+  EXPECT_EQ(allocations::live(), live);
+}
+
 } // namespace

@@ -1,6 +1,7 @@
 // Texts that are nearly what a writer writes: a reader on the straight road must not be taken in,
 // and texts that keep a reader searching must not keep it long.
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -92,6 +93,24 @@ TYPED_TEST(Lookalikes, OfPiecesWithoutAnEndAreGivenUpAtOnce) {
   typename TypeParam::Log log(1);
   EXPECT_TRUE(TypeParam::readLog(entries, log));
   EXPECT_TRUE(log.empty());
+}
+
+// A reader remembers what it has made of each member's text.
+TEST(LookalikesOfMembers, AreNotTakenForAMemberThatWasReadBefore) {
+  std::string message = "<Entry><LogList>";
+  for (auto const* target : {"IN_BUSY", "XN_BUSY", "IN_BUSX", "IN_BUSY", "IN_BUS", "IN_BUSYY"})
+    message += std::string("<Item><TargetLog>") + target + "</TargetLog></Item>";
+  message += "</LogList></Entry>";
+  std::deque<MissedCallItem> log;
+  JournalServiceHelper::parseXMLMissedCallList(message, log);
+  ASSERT_EQ(1U, log.size());
+  std::vector<CallLogEntryEvent::_LogTarget> targets;
+  for (auto const& call : log.front().callInfoList)
+    targets.push_back(call.targetLog);
+  using Event = CallLogEntryEvent;
+  EXPECT_EQ((std::vector<Event::_LogTarget>{Event::IN_BUSY, Event::OUT_BUSY, Event::OUT_BUSY,
+                                            Event::IN_BUSY, Event::OUT_BUSY, Event::OUT_BUSY}),
+            targets);
 }
 
 } // namespace
