@@ -225,8 +225,9 @@ class Copy:
         """How a survivor of the plain build fares in another."""
         with changed(self, mutant):
             try:
-                self.ninja(build)
-                self.tests[build.name].run(FEW_TEXTS)
+                self.ninja(build, *LIBRARIES)
+                self.tests[build.name].quick()
+                self.tests[build.name].slow(FEW_TEXTS)
             except Failed as failed:
                 return 'killed', str(failed)
         return 'survived', ''

@@ -132,13 +132,17 @@ TEST(Threads, KeepTheLongestReservationWhenEachAnswerRaisesIt) {
   constexpr std::size_t answers = 1500;
   std::atomic<std::size_t> next{reservedForAnswer()};
   std::atomic<std::size_t> longest{0};
+  std::atomic<int> tooSmall{0};
   inAllThreads([&](std::size_t) {
     for (std::size_t answer = 0; answer < answers; ++answer) {
       std::deque<MissedCallItem> log(1);
       log.front().picture.assign(next++, 'p');
-      raise(longest, Library::respGetMissedCallList(log, 0).size());
+      auto const size = Library::respGetMissedCallList(log, 0).size();
+      tooSmall += reservedForAnswer() < size + ROOM_TO_GROW ? 1 : 0;
+      raise(longest, size);
     }
   });
+  EXPECT_EQ(tooSmall, 0);
   EXPECT_EQ(reservedForAnswer(), longest + ROOM_TO_GROW);
 }
 
