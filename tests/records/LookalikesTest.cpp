@@ -72,6 +72,17 @@ TYPED_TEST(Lookalikes, AreNotReadWhereCloseTagsAreMisspelt) {
   this->expectAsPlainReader(fields);
 }
 
+TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
+  auto const body = this->body();
+  for (Size at = 0; at < body.size(); ++at) {
+    for (char const other : {static_cast<char>(body[at] ^ 1), '?'}) {
+      auto text = body;
+      text[at] = other;
+      this->expectAsPlainReader(text);
+    }
+  }
+}
+
 TYPED_TEST(Lookalikes, AreNotReadWhereACloseTagStandsBehindAnEmptyItem) {
   this->expectAsPlainReader("<LogList><Item></Item></Item></LogList>");
   this->expectAsPlainReader("<LogList><Item></Item><Number>1</Number></Item></LogList>");
