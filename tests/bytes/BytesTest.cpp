@@ -1,0 +1,93 @@
+// Comparing, scanning and copying bytes by words: for every size and place, against the plain way.
+// On the readers' straight road an error here would only send more texts to the general road, and
+// no test of results could see it.
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "xml/Bytes.h"
+
+namespace {
+
+// Bytes in memory of exactly their size, so that a sanitizer sees what is read outside.
+std::vector<char> bytes(std::size_t size) {
+  std::vector<char> made(size);
+  for (std::size_t at = 0; at < size; ++at)
+    made[at] = static_cast<char>('a' + at % 23);
+  return made;
+}
+
+// What differs in one bit, in all bits, and in the sign only.
+constexpr unsigned char differences[] = {0x01, 0xff, 0x80, 0x02};
+
+TEST(SameBytes, AreSameOnlyIfEachOneIs) {
+  for (std::size_t size = 4; size <= 70; ++size) {
+    auto const left = bytes(size);
+    EXPECT_TRUE(journal::sameBytes(left.data(), bytes(size).data(), size)) << size;
+    for (std::size_t at = 0; at < size; ++at)
+      for (auto const difference : differences) {
+        auto right = left;
+        right[at] = static_cast<char>(right[at] ^ difference);
+        EXPECT_FALSE(journal::sameBytes(left.data(), right.data(), size)) << size << ' ' << at;
+      }
+  }
+}
+
+TEST(SameFront, IsSameWhateverStandsBehind) {
+  constexpr std::size_t room = 16;
+  for (std::size_t size = 0; size <= room; ++size)
+    for (std::size_t at = 0; at < room; ++at)
+      for (auto const difference : differences) {
+        auto const left = bytes(room);
+        auto right = left;
+        EXPECT_TRUE(journal::sameFront(left.data(), right.data(), size)) << size;
+        right[at] = static_cast<char>(right[at] ^ difference);
+        EXPECT_EQ(at >= size, journal::sameFront(left.data(), right.data(), size))
+            << size << ' ' << at;
+      }
+}
+
+TEST(CopyBytes, CopiesThemAndNothingElse) {
+  constexpr std::size_t around = 40;
+  for (std::size_t size = 0; size <= 100; ++size) {
+    auto const from = bytes(size);
+    std::string to(around + size + around, '.');
+    journal::copyBytes(&to[around], from.data(), size);
+    EXPECT_EQ(std::string(around, '.') + std::string(from.begin(), from.end()) +
+                  std::string(around, '.'),
+              to);
+  }
+}
+
+TEST(FindByte, FindsTheFirstAndNothingBehindTheEnd) {
+  for (std::size_t size = 0; size <= 70; ++size)
+    for (std::size_t at = 0; at <= size; ++at) {
+      auto text = bytes(size);
+      for (auto const similar : {'<' ^ 0x80, '<' ^ 0x01, 0})
+        for (std::size_t before = 0; before < at; ++before)
+          text[before] = static_cast<char>(similar);
+      if (at < size)
+        text[at] = '<';
+      for (std::size_t behind = at + 1; behind < size; ++behind)
+        text[behind] = behind % 2 == 0 ? '<' : '=';
+      auto const* const begin = text.data();
+      EXPECT_EQ(begin + at, journal::findByte(begin, begin + size, '<')) << size << ' ' << at;
+      EXPECT_EQ(begin + at, journal::findByte(begin + at, begin + size, '<')) << size << ' ' << at;
+    }
+}
+
+TEST(FindByte, IsNotTakenInBySimilarBytes) {
+  for (std::size_t size = 1; size <= 40; ++size)
+    for (int similar = 0; similar < 256; ++similar) {
+      if (similar == '<')
+        continue;
+      std::vector<char> const text(size, static_cast<char>(similar));
+      auto const* const end = text.data() + size;
+      EXPECT_EQ(end, journal::findByte(text.data(), end, '<')) << similar;
+    }
+}
+
+} // namespace
