@@ -19,7 +19,7 @@ UNITS = 'bytes_test', 'bytes_by_words_test', 'bytes_for_size_test'  # soon built
 # Unoptimised code builds fastest. `memory` bounds what a test may take, so that a mutant that
 # takes more and more fails; sanitizers and qemu reserve more than they use.
 Build = namedtuple('Build', 'name arguments memory', defaults=(None,))
-PLAIN = Build('plain', ['-DCMAKE_CXX_FLAGS=-O0 -w'], 4 << 30)
+PLAIN = Build('plain', ['-DCMAKE_CXX_FLAGS=-O0 -w -D_GLIBCXX_ASSERTIONS'], 4 << 30)
 OTHERS = [
     Build('sanitized', ['-DCMAKE_CXX_FLAGS=-O0 -w -fsanitize=address,undefined '
                         '-fno-sanitize-recover=all']),

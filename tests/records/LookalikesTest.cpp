@@ -45,9 +45,10 @@ protected:
     return markup == std::string::npos ? text : text.replace(markup, 3, "1");
   }
 
+  // Into an entry that holds something already: what is read has to replace all of it.
   static void expectAsPlainReader(std::string const& text) {
-    Item expected;
-    Item item;
+    Item expected = KindType::full();
+    Item item = expected;
     readPlainly(text, expected);
     EXPECT_TRUE(KindType::readItemText(text, item));
     EXPECT_EQ(expected, item) << text;
