@@ -1,0 +1,80 @@
+// Texts between pages that may not be touched: a read in front of a text or behind its NUL ends the
+// program, on any machine and without a sanitizer.
+#include <cstddef>
+#include <cstring>
+#include <string>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "records/TestedKinds.h"
+
+namespace {
+
+/// Readable pages with a page on each side that is not.
+class Guarded {
+public:
+  explicit Guarded(std::size_t atLeast)
+      : page_(static_cast<std::size_t>(sysconf(_SC_PAGESIZE))),
+        size_((atLeast / page_ + 1) * page_) {
+    auto* const all = mmap(nullptr, size_ + 2 * page_, PROT_READ | PROT_WRITE,
+                           MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    pages_ = all == MAP_FAILED ? nullptr : static_cast<char*>(all);
+    if (pages_ != nullptr) {
+      mprotect(pages_, page_, PROT_NONE);
+      mprotect(pages_ + page_ + size_, page_, PROT_NONE);
+    }
+  }
+  ~Guarded() {
+    if (pages_ != nullptr)
+      munmap(pages_, size_ + 2 * page_);
+  }
+  Guarded(Guarded const&) = delete;
+  Guarded& operator=(Guarded const&) = delete;
+
+  bool stands() const { return pages_ != nullptr; }
+
+  /// The text, its first character behind a guard.
+  char const* inFront(std::string const& text) {
+    return static_cast<char const*>(std::memcpy(pages_ + page_, text.c_str(), text.size() + 1));
+  }
+
+  /// The text, its NUL in front of a guard.
+  char const* behind(std::string const& text) {
+    auto* const at = pages_ + page_ + size_ - text.size() - 1;
+    return static_cast<char const*>(std::memcpy(at, text.c_str(), text.size() + 1));
+  }
+
+private:
+  std::size_t page_;
+  std::size_t size_;
+  char* pages_ = nullptr;
+};
+
+template <typename KindType>
+class GuardedText : public ::testing::Test {
+protected:
+  static void read(char const* text) {
+    typename KindType::Item item;
+    EXPECT_TRUE(KindType::readItem(text, item));
+    typename KindType::Info call;
+    EXPECT_TRUE(KindType::readCall(text, call));
+    typename KindType::InfoList calls;
+    KindType::readCalls(text, calls);
+  }
+};
+
+TYPED_TEST_SUITE(GuardedText, kinds::All, kinds::KindNames);
+
+TYPED_TEST(GuardedText, IsReadFromItsFirstCharacterToItsNul) {
+  auto const body = golden::message(std::string(TypeParam::NAME) + "-full");
+  Guarded guarded(body.size());
+  ASSERT_TRUE(guarded.stands());
+  for (std::size_t cut = 0; cut <= body.size(); ++cut) {
+    this->read(guarded.inFront(body.substr(cut)));
+    this->read(guarded.behind(body.substr(cut)));
+    this->read(guarded.behind(body.substr(0, cut)));
+  }
+}
+
+} // namespace
