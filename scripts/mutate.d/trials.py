@@ -23,7 +23,6 @@ PLAIN = Build('plain', ['-DCMAKE_CXX_FLAGS=-O0 -w -D_GLIBCXX_ASSERTIONS'], 4 << 
 OTHERS = [
     Build('sanitized', ['-DCMAKE_CXX_FLAGS=-O0 -w -fsanitize=address,undefined '
                         '-fno-sanitize-recover=all']),
-    Build('words', ['-DCMAKE_CXX_FLAGS=-O0 -w -U__SSE2__'], 4 << 30),  # as without vectors
     Build('size', ['-DCMAKE_CXX_FLAGS=-O0 -w -D__OPTIMIZE_SIZE__=1'], 4 << 30),
 ]
 if shutil.which('mips-linux-gnu-g++') and shutil.which('qemu-mips'):

@@ -29,9 +29,20 @@ JOURNAL_INLINE inline char* put(char* at, MemberText const& text) {
   return at + text.size();
 }
 
+template <class Rows>
+constexpr std::size_t escapedTexts(Rows const& rows) {
+  std::size_t count = 0;
+  for (auto const& row : rows)
+    if (row.writing == Writing::escaped)
+      ++count;
+  return count;
+}
+
 /// Writes the records of one message.
 class Writer {
 public:
+  static constexpr std::size_t mostEscaped = 2; // texts of one record
+
   explicit Writer(std::string& out, std::size_t ahead = 0) : appender_(out, ahead) {}
 
   void append(std::string_view text) { appender_.append(text); }
@@ -114,8 +125,8 @@ private:
 
   Appender appender_;
   // A record's escaped texts, in the order of its rows, and what keeps those that are not empty.
-  std::array<std::string_view, 2> escaped_;
-  std::array<std::string, 2> kept_;
+  std::array<std::string_view, mostEscaped> escaped_;
+  std::array<std::string, mostEscaped> kept_;
   std::string nothing_;
   bool asked_ = false;
 };
@@ -128,6 +139,9 @@ struct Layout {
 
 template <class Item>
 struct Records {
+  static_assert(escapedTexts(Kind<Item>::entry) <= Writer::mostEscaped &&
+                escapedTexts(Kind<Item>::detail) <= Writer::mostEscaped);
+
   static void appendFields(Writer& writer, void const* item) {
     writer.append("", rowsOf<Kind<Item>::entry>(), item, "");
   }

@@ -61,6 +61,7 @@ private:
   /// Whether a value is a member's text. 16 bytes can be loaded from the value on: it is of 6
   /// characters at least, like every member's text, and a tag of 12 at least stands behind it.
   JOURNAL_INLINE static inline bool isText(std::string_view value, MemberText const& member) {
+    static_assert(sizeof member == detail::frontSize);
     return value.size() == member.size() &&
            sameFront(value.data(), std::string_view(member).data(), value.size());
   }

@@ -1,29 +1,19 @@
 // Texts that are nearly what a writer writes: a reader on the straight road must not be taken in,
 // and texts that keep a reader searching must not keep it long.
+#include <algorithm>
 #include <cstddef>
 #include <deque>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "neighbourhood/Comparison.h"
 #include "records/TestedKinds.h"
-#include "reference/Reference.h"
 
 namespace {
 
 using Size = std::string::size_type;
-
-void readPlainly(std::string const& text, MissedCallItem& item) {
-  Reference::parseXMLMissedCallItem(text, item);
-}
-void readPlainly(std::string const& text, DialledCallItem& item) {
-  Reference::parseXMLDialledCallItem(text, item);
-}
-void readPlainly(std::string const& text, ReceivedCallItem& item) {
-  Reference::parseXMLReceivedCallItem(text, item);
-}
-void readPlainly(std::string const& text, ForwardedCallItem& item) {
-  Reference::parseXMLForwardedCallItem(text, item);
-}
 
 std::vector<Size> placesOf(std::string const& text, std::string const& wanted) {
   std::vector<Size> places;
@@ -35,8 +25,6 @@ std::vector<Size> placesOf(std::string const& text, std::string const& wanted) {
 template <typename KindType>
 class Lookalikes : public ::testing::Test {
 protected:
-  using Item = typename KindType::Item;
-
   // An entry with one call, every element of both there and none with a "<" in it.
   static std::string body() {
     auto text = golden::message(std::string(KindType::NAME) + "-full");
@@ -45,13 +33,15 @@ protected:
     return markup == std::string::npos ? text : text.replace(markup, 3, "1");
   }
 
-  // Into an entry that holds something already: what is read has to replace all of it.
+  static comparison::Kind kind() {
+    constexpr std::string_view names[] = {"missed", "dialled", "received", "forwarded"};
+    auto const* const name = std::find(std::begin(names), std::end(names), KindType::NAME);
+    return static_cast<comparison::Kind>(name - std::begin(names));
+  }
+
   static void expectAsPlainReader(std::string const& text) {
-    Item expected = KindType::full();
-    Item item = expected;
-    readPlainly(text, expected);
-    EXPECT_TRUE(KindType::readItemText(text, item));
-    EXPECT_EQ(expected, item) << text;
+    for (auto const outputs : {comparison::Outputs::fresh, comparison::Outputs::filled})
+      EXPECT_EQ("", comparison::compareDecoder(text, kind(), comparison::Level::itemText, outputs));
   }
 };
 
