@@ -17,7 +17,8 @@
 // Texts are byte strings holding UTF-8. The operations keep no state (but for a size hint that only
 // reserves memory), never change a text passed as const (parseLastUniqueId alone does) and may be
 // called from any thread at once. Nothing is thrown but what running out of memory throws. None may
-// run before this library's static initialisation has finished.
+// run before this library's static initialisation has finished. What an operation writes to must
+// not be a part of what it reads, such as a record's own text to which the record is appended.
 #ifndef JOURNALSERVICEHELPER_H
 #define JOURNALSERVICEHELPER_H
 
@@ -528,7 +529,7 @@ public:
   /// Reads every entry of a list response, in order. Nothing outside the Entry elements matters.
   /// @param xml the message, up to its first NUL
   /// @param[out] items emptied first; one per non-empty Entry. An Entry without close tag ends the
-  ///        list, those before it are kept
+  ///        list, those before it are kept. Where memory ran out, the last one may be incomplete
   /// @return always true
   static bool parseXMLMissedCallList(std::string const& xml, std::deque<MissedCallItem>& items);
   static bool parseXMLDialledCallList(std::string const& xml, std::deque<DialledCallItem>& items);
