@@ -91,7 +91,7 @@ class Tests:
 
     def rest(self):
         for name in self.others:
-            self.timed(['ctest', '-R', f'^{re.escape(name)}$'], {}, name)
+            self.timed(['ctest', '-R', f'^{re.escape(name)}$'], FEW_TEXTS, name)
 
     def quick(self, since=None):
         """The quick suites: of the programs that only use the libraries, or of those that were built
