@@ -23,6 +23,7 @@ from pathlib import Path
 
 LIBRARIES = 'src', 'clientutils'
 HEADERS = 'include'
+UNCOUNTED = 'GCOVR_EXCL_BR_LINE'  # on a line whose branches are not the source's
 FOLD = re.compile(r'(&&|\|\|) \.\.\.\)')
 
 
@@ -111,6 +112,8 @@ class Merged:
         return not text.split('//')[0].strip(' {};')
 
     def branches_of(self, key, text):
+        if UNCOUNTED in text:
+            return []
         groups = self.branches.get(key, {}).values()
         if not FOLD.search(text):
             return [count for group in groups for count in group]
