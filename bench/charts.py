@@ -1,5 +1,6 @@
 """The charts of one run, drawn by gnuplot as SVG."""
 
+import os
 import subprocess
 
 from figures import DAMAGES, KINDS, NAMES, SIZES
@@ -94,6 +95,7 @@ def damages(run, path):
 
 
 def draw(run, folder):
+    os.makedirs(folder, exist_ok=True)
     against_bound(run, f"{folder}/decode.svg", "decode", "copy", "the deep copy of the result")
     against_bound(run, f"{folder}/encode.svg", "encode", "memcpy", "the memcpy of the message")
     over_sizes(run, f"{folder}/decode-sizes.svg", "decode")
