@@ -23,7 +23,7 @@ from pathlib import Path
 
 LIBRARIES = 'src', 'clientutils'
 HEADERS = 'include'
-UNCOUNTED = 'GCOVR_EXCL_BR_LINE'  # on a line whose branches are not the source's
+UNCOUNTED = 'GCOVR_EXCL_BR_LINE'  # gcovr's mark for a line whose branches the compiler made
 FOLD = re.compile(r'(&&|\|\|) \.\.\.\)')
 
 
