@@ -1,8 +1,10 @@
 // The stand-in for the product's utility library: escaping in one pass, integer texts.
 #include "ClientUtils.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace {
@@ -29,8 +31,26 @@ constexpr bool isSpecial(char character) {
   return code < 64 && (specials >> code & 1) != 0;
 }
 
+// Names are letters, which all have codes from 64 on: passed over by words, until a word holds
+// another code. The last word overlaps the one before it.
+std::size_t lettersAtFrontOf(std::string_view text) {
+  using Word = std::uint32_t;
+  constexpr Word top = 0x80808080;
+  if (text.size() < sizeof(Word))
+    return 0;
+  auto const last = text.size() - sizeof(Word);
+  for (std::size_t at = 0;; at = std::min(at + sizeof(Word), last)) {
+    Word word;
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if (((word | word << 1) & top) != top)
+      return at;
+    if (at == last)
+      return text.size();
+  }
+}
+
 std::size_t firstSpecial(std::string_view text) {
-  std::size_t at = 0;
+  auto at = lettersAtFrontOf(text);
   while (at < text.size() && !isSpecial(text[at]))
     ++at;
   return at;

@@ -7,6 +7,7 @@
 #include "records/Decoder.h"
 
 #include "records/FieldReader.h"
+#include "records/Walks.h"
 #include "xml/Cursor.h"
 #include "xml/Forward.h"
 
@@ -72,12 +73,21 @@ void readItem(std::string_view text, Layout const& layout, void* item, void* inf
 template <class Rows>
 bool takeFields(Rows rows, Forward& from, void* record, FieldReader& reader) {
   auto forward = from; // of its own, so that it can stay in registers
-  auto const straight = allOf(rows, [&](Field const& row) JOURNAL_INLINE {
-    std::string_view raw;
-    if (!forward.take(row.element, row.usualText(), raw))
-      return false;
+  auto const store = [&](std::string_view raw, Field const& row) JOURNAL_INLINE {
     // There is no second begin tag here for an unclosed element to be found by.
     storeRead(row.reading == Reading::unclosed ? missing : raw, row, record, reader);
+  };
+  auto asUsual = false;
+  auto const straight = allOf(rows, [&](Field const& row, std::string_view run) JOURNAL_INLINE {
+    if (!row.joined)
+      asUsual = !run.empty() && forward.take(run);
+    std::string_view raw;
+    if (asUsual)
+      store(row.usualValue(), row);
+    else if (forward.take(row.element, raw))
+      store(raw, row);
+    else
+      return false;
     return true;
   });
   from = forward;
@@ -123,6 +133,8 @@ void readItem(std::string_view text, Layout const& layout, void* item, void* inf
     readItem(text, layout, item, infos, reader);
 }
 
+// Whether a NUL ends the text is seen on the way, where a value or what is skipped holds one: to
+// look for it first would be a pass over the message of its own.
 std::string_view readItems(std::string_view text, Layout const& layout, void* items) {
   FieldReader reader;
   auto unknown = text;

@@ -8,12 +8,8 @@ using namespace journal;
 
 namespace {
 
-// Texts end at their first NUL, as they do for every reader of records.
-std::string_view viewOfText(std::string const& text) {
-  return viewOf(text.c_str());
-}
-
-unsigned int handleIn(std::string_view text) {
+unsigned int handleIn(std::string_view message) {
+  auto const text = message.substr(0, message.find('\0'));
   return static_cast<unsigned int>(numberAtFrontOf(unescaped(readFirst<word::HANDLE>(text))));
 }
 
@@ -108,52 +104,52 @@ bool JournalServiceHelper::parseXMLGetLastDialledNumber(std::string const& xml,
 
 bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
                                                   std::deque<MissedCallItem>& items) {
-  readItems(viewOfText(xml), items);
+  readItems(xml, items);
   return true;
 }
 
 bool JournalServiceHelper::parseXMLMissedCallList(std::string const& xml,
                                                   std::deque<MissedCallItem>& items,
                                                   unsigned int& handle) {
-  handle = handleIn(readItems(viewOfText(xml), items));
+  handle = handleIn(readItems(xml, items));
   return true;
 }
 
 bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
                                                    std::deque<DialledCallItem>& items) {
-  readItems(viewOfText(xml), items);
+  readItems(xml, items);
   return true;
 }
 
 bool JournalServiceHelper::parseXMLDialledCallList(std::string const& xml,
                                                    std::deque<DialledCallItem>& items,
                                                    unsigned int& handle) {
-  handle = handleIn(readItems(viewOfText(xml), items));
+  handle = handleIn(readItems(xml, items));
   return true;
 }
 
 bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
                                                     std::deque<ReceivedCallItem>& items) {
-  readItems(viewOfText(xml), items);
+  readItems(xml, items);
   return true;
 }
 
 bool JournalServiceHelper::parseXMLReceivedCallList(std::string const& xml,
                                                     std::deque<ReceivedCallItem>& items,
                                                     unsigned int& handle) {
-  handle = handleIn(readItems(viewOfText(xml), items));
+  handle = handleIn(readItems(xml, items));
   return true;
 }
 
 bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
                                                      std::deque<ForwardedCallItem>& items) {
-  readItems(viewOfText(xml), items);
+  readItems(xml, items);
   return true;
 }
 
 bool JournalServiceHelper::parseXMLForwardedCallList(std::string const& xml,
                                                      std::deque<ForwardedCallItem>& items,
                                                      unsigned int& handle) {
-  handle = handleIn(readItems(viewOfText(xml), items));
+  handle = handleIn(readItems(xml, items));
   return true;
 }

@@ -8,6 +8,7 @@
 
 #include "ClientUtils.h"
 #include "records/Kinds.h"
+#include "records/Walks.h"
 #include "xml/Appender.h"
 #include "xml/Building.h"
 

@@ -8,13 +8,13 @@
 #include <cstdint>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "CallLogEntryEvent.h"
 #include "NumberType.h"
 #include "convert/EnumTexts.h"
 #include "vocabulary/Tags.h"
-#include "xml/Inline.h"
 
 namespace journal {
 
@@ -66,12 +66,13 @@ struct Field {
   Member member;
   Writing writing;
   Reading reading;
-  std::int8_t usual; // the value that most records hold, or none
+  std::int8_t usual;   // the value that most records hold, or none: see mostly
+  bool joined = false; // whether it is as usual whenever the row in front is: see along
 
   constexpr Content content() const { return member.content; }
-  /// The text of the usual value; empty where code is built for size and does not look for it.
-  constexpr std::string_view usualText() const {
-    if (!builtForSpeed || usual == none)
+  /// The usual value as it stands in a text, or missing.
+  constexpr std::string_view usualValue() const {
+    if (usual == none)
       return {};
     return enumerationOf(content()).textOf(usual);
   }
@@ -97,6 +98,20 @@ constexpr Field mostly(Member member, int usual, Reading reading = Reading::stor
   return {element<name>, member, Writing::raw, reading, static_cast<std::int8_t>(usual)};
 }
 
+/// The row of an element that carries this value whenever the row in front is as usual, so that
+/// both are looked for at once.
+template <std::string_view const& name>
+constexpr Field along(Member member, int usual) {
+  return {element<name>, member, Writing::raw, Reading::stored, static_cast<std::int8_t>(usual),
+          true};
+}
+
+/// The row of a text that is missing whenever the rows around it are as usual.
+template <std::string_view const& name>
+constexpr Field missingAlong(Member member) {
+  return {element<name>, member, Writing::raw, Reading::stored, Field::none, true};
+}
+
 namespace detail {
 template <std::size_t size, std::size_t... index>
 constexpr std::array<Field, size> swapped(Field const (&rows)[size], std::size_t first,
@@ -110,75 +125,6 @@ template <std::size_t size>
 constexpr std::array<Field, size> swapped(Field const (&rows)[size], std::size_t first,
                                           std::size_t second) {
   return detail::swapped(rows, first, second, std::make_index_sequence<size>());
-}
-
-// ---- Walks over the rows of a record. forEach calls visit(row) for each row in order; allOf does
-// until one gives false, and tells whether none did.
-
-/// Rows walked in a loop: the smallest code.
-class LoopedRows {
-public:
-  template <class Rows>
-  constexpr LoopedRows(Rows const& rows) : first_(std::data(rows)), size_(std::size(rows)) {}
-
-  constexpr Field const* begin() const { return first_; }
-  constexpr Field const* end() const { return first_ + size_; }
-
-private:
-  Field const* first_;
-  std::size_t size_;
-};
-
-template <class Visit>
-JOURNAL_INLINE inline void forEach(LoopedRows rows, Visit visit) {
-  for (auto const& row : rows)
-    visit(row);
-}
-
-template <class Visit>
-JOURNAL_INLINE inline bool allOf(LoopedRows rows, Visit visit) {
-  for (auto const& row : rows)
-    if (!visit(row))
-      return false;
-  return true;
-}
-
-/// Rows walked without a loop: every tag is a constant of known size, and comparing or copying it
-/// takes a few instructions.
-template <auto const& rows>
-struct UnrolledRows {
-  using Indices = std::make_index_sequence<std::size(rows)>;
-};
-
-namespace detail {
-template <auto const& rows, class Visit, std::size_t... index>
-JOURNAL_INLINE inline void forEach(Visit& visit, std::index_sequence<index...>) {
-  (visit(rows[index]), ...);
-}
-
-template <auto const& rows, class Visit, std::size_t... index>
-JOURNAL_INLINE inline bool allOf(Visit& visit, std::index_sequence<index...>) {
-  return (visit(rows[index]) && ...);
-}
-} // namespace detail
-
-template <auto const& rows, class Visit>
-JOURNAL_INLINE inline void forEach(UnrolledRows<rows>, Visit visit) {
-  detail::forEach<rows>(visit, typename UnrolledRows<rows>::Indices());
-}
-
-template <auto const& rows, class Visit>
-JOURNAL_INLINE inline bool allOf(UnrolledRows<rows>, Visit visit) {
-  return detail::allOf<rows>(visit, typename UnrolledRows<rows>::Indices());
-}
-
-/// The rows as code is built: for speed or for size.
-template <auto const& rows>
-constexpr auto rowsOf() {
-  if constexpr (builtForSpeed)
-    return UnrolledRows<rows>();
-  else
-    return LoopedRows(rows);
 }
 
 } // namespace journal

@@ -16,11 +16,14 @@
 
 namespace journal {
 
+/// Loads a word from any address; through a packed structure, because g++ for MIPS takes a memcpy
+/// of eight bytes over the stack.
 template <class Word>
 JOURNAL_INLINE inline Word load(char const* at) {
-  Word word;
-  std::memcpy(&word, at, sizeof word);
-  return word;
+  struct [[gnu::packed, gnu::may_alias]] Unaligned {
+    Word word;
+  };
+  return reinterpret_cast<Unaligned const*>(at)->word;
 }
 
 namespace detail {
@@ -51,29 +54,30 @@ struct Pair {
 
 #ifdef __SSE2__
 
-/// As many bytes as are looked at at once, and where among them the first `byte` is.
+/// As many bytes as are looked at at once, and where among them the first `byte` or NUL is.
 struct Block {
   static constexpr std::ptrdiff_t size = 16;
 
   JOURNAL_INLINE static inline unsigned find(char const* at, char byte) {
     auto const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(at));
-    return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(byte))));
+    auto const found = _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(byte)),
+                                    _mm_cmpeq_epi8(bytes, _mm_setzero_si128()));
+    return static_cast<unsigned>(_mm_movemask_epi8(found));
   }
   JOURNAL_INLINE static inline int first(unsigned found) { return __builtin_ctz(found); }
 };
 
 #else
 
-/// As many bytes as are looked at at once, and where among them the first `byte` is.
+/// As many bytes as are looked at at once, and where among them the first `byte` or NUL is.
 struct Block {
   static constexpr std::ptrdiff_t size = 8;
 
   /// Sets the top bit of each byte that is found, and no other bit, whichever end comes first.
   JOURNAL_INLINE static inline std::uint64_t find(char const* at, char byte) {
-    constexpr std::uint64_t low = 0x7f7f7f7f7f7f7f7f;
     constexpr std::uint64_t ones = 0x0101010101010101;
-    auto const differences = load<std::uint64_t>(at) ^ ones * static_cast<unsigned char>(byte);
-    return ~(((differences & low) + low) | differences | low);
+    auto const bytes = load<std::uint64_t>(at);
+    return ~((nonzero(bytes) & nonzero(bytes ^ ones * static_cast<unsigned char>(byte))) | low);
   }
   JOURNAL_INLINE static inline int first(std::uint64_t found) {
 #if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
@@ -81,6 +85,14 @@ struct Block {
 #else
     return __builtin_clzll(found) / 8;
 #endif
+  }
+
+private:
+  static constexpr std::uint64_t low = 0x7f7f7f7f7f7f7f7f;
+
+  /// Sets the top bit of each byte that is not 0.
+  JOURNAL_INLINE static inline std::uint64_t nonzero(std::uint64_t bytes) {
+    return ((bytes & low) + low) | bytes;
   }
 };
 
@@ -137,13 +149,13 @@ JOURNAL_INLINE inline void copyBytes(char* to, char const* from, std::size_t siz
       to[at] = from[at];
 }
 
-/// The first `byte` in front of `end`; `end` when there is none.
-JOURNAL_INLINE inline char const* findByte(char const* at, char const* end, char byte) {
+/// The first `byte` or NUL in front of `end`; `end` when there is none.
+JOURNAL_INLINE inline char const* findByteOrNul(char const* at, char const* end, char byte) {
   if (builtForSpeed)
     for (; end - at >= detail::Block::size; at += detail::Block::size)
       if (auto const found = detail::Block::find(at, byte); found != 0)
         return at + detail::Block::first(found);
-  while (at != end && *at != byte)
+  while (at != end && *at != byte && *at != '\0')
     ++at;
   return at;
 }

@@ -51,14 +51,14 @@ bool holds(std::string_view text) {
 }
 
 /// Cuts a text into pieces: the inside of one element after the other, each ending at its first
-/// close tag.
+/// close tag. The text ends at its first NUL, so that no piece holds one.
 class Pieces {
 public:
   Pieces(std::string_view text, Element const& element) : rest_(text), element_(element) {}
 
   /// Goes behind the next begin tag; tells whether there is one.
   bool enter() {
-    auto const begin = rest_.find(element_.begin());
+    auto const begin = find(element_.begin());
     if (begin == std::string_view::npos)
       return false;
     rest_.remove_prefix(begin + element_.begin().size());
@@ -67,7 +67,7 @@ public:
 
   /// The piece up to the next close tag; missing when there is none. Goes behind the close tag.
   std::string_view leave() {
-    auto const close = rest_.find(element_.close());
+    auto const close = find(element_.close());
     if (close == std::string_view::npos)
       return missing;
     auto const piece = rest_.substr(0, close);
@@ -80,6 +80,13 @@ public:
   void goOnWith(std::string_view rest) { rest_ = rest; }
 
 private:
+  /// Where a tag is, if no NUL is in front of it.
+  std::size_t find(std::string_view tag) const {
+    auto const at = rest_.find(tag);
+    auto const inFront = rest_.substr(0, at);
+    return inFront.find('\0') == std::string_view::npos ? at : std::string_view::npos;
+  }
+
   std::string_view rest_;
   Element element_;
 };

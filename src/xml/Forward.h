@@ -14,8 +14,9 @@ namespace journal {
 
 /// Reads forward and never searches. Wherever a text holds nothing but elements that are taken here
 /// one after the other, each at most once, no tag occurs anywhere else in it (a value taken here
-/// holds no "<"), and every search of the general road would end where this pass found the element.
-/// At the first thing that is not so, the pass gives up and the general road decides.
+/// holds no "<"; nor a NUL, where the text would end), and every search of the general road would
+/// end where this pass found the element. At the first thing that is not so, the pass gives up and
+/// the general road decides.
 class Forward {
 public:
   explicit Forward(std::string_view text) : at_(text.data()), end_(at_ + text.size()) {}
@@ -23,20 +24,17 @@ public:
   /// The text that is not read yet.
   std::string_view rest() const { return {at_, left()}; }
 
-  /// Reads a tag; tells whether it stands here.
-  JOURNAL_INLINE inline bool take(std::string_view tag) {
-    if (left() < tag.size() || !sameBytes(at_, tag.data(), tag.size()))
+  /// Reads a tag, or whole elements; tells whether they stand here.
+  JOURNAL_INLINE inline bool take(std::string_view expected) {
+    if (left() < expected.size() || !sameBytes(at_, expected.data(), expected.size()))
       return false;
-    at_ += tag.size();
+    at_ += expected.size();
     return true;
   }
 
   /// Reads an element if one can stand here: its value, or missing when its begin tag is not here.
   /// Gives false when another tag than its close tag follows the value.
-  /// @param usual a value that nearly always stands here, or an empty one. Looking for it first
-  ///        spares the processor to wait for the value's end before it can go on
-  JOURNAL_INLINE inline bool take(Element const& element, std::string_view usual,
-                                  std::string_view& value) {
+  JOURNAL_INLINE inline bool take(Element const& element, std::string_view& value) {
     auto const begin = element.begin();
     auto const close = element.close();
     if (left() < begin.size() + close.size() || !sameBytes(at_, begin.data(), begin.size())) {
@@ -45,13 +43,10 @@ public:
     }
     auto const* const front = at_ + begin.size();
     auto const* const last = end_ - close.size(); // where the close tag can start
-    auto const isUsual = !usual.empty() && static_cast<std::size_t>(last - front) >= usual.size() &&
-                         sameBytes(front, usual.data(), usual.size()) &&
-                         sameBytes(front + usual.size(), close.data(), close.size());
-    auto const* const end = isUsual ? front + usual.size() : findByte(front, last, '<');
+    auto const* const end = findByteOrNul(front, last, '<');
     value = {front, static_cast<std::size_t>(end - front)};
     at_ = end + close.size();
-    return isUsual || sameBytes(end, close.data(), close.size());
+    return sameBytes(end, close.data(), close.size());
   }
 
 private:

@@ -61,28 +61,31 @@ TEST(CopyBytes, CopiesThemAndNothingElse) {
   }
 }
 
-TEST(FindByte, FindsTheFirstAndNothingBehindTheEnd) {
-  for (std::size_t size = 0; size <= 70; ++size)
-    for (std::size_t at = 0; at <= size; ++at) {
-      auto text = bytes(size);
-      if (at < size)
-        text[at] = '<';
-      for (std::size_t behind = at + 1; behind < size; ++behind)
-        text[behind] = behind % 2 == 0 ? '<' : '=';
-      auto const* const begin = text.data();
-      EXPECT_EQ(begin + at, journal::findByte(begin, begin + size, '<')) << size << ' ' << at;
-      EXPECT_EQ(begin + at, journal::findByte(begin + at, begin + size, '<')) << size << ' ' << at;
-    }
+TEST(FindByteOrNul, FindsTheFirstAndNothingBehindTheEnd) {
+  for (char const wanted : {'<', '\0'})
+    for (char const other : {'<', '\0', '='})
+      for (std::size_t size = 0; size <= 70; ++size)
+        for (std::size_t at = 0; at <= size; ++at) {
+          auto text = bytes(size);
+          if (at < size)
+            text[at] = wanted;
+          for (std::size_t behind = at + 1; behind < size; ++behind)
+            text[behind] = behind % 2 == 0 ? other : '=';
+          auto const* const begin = text.data();
+          auto const* const end = begin + size;
+          EXPECT_EQ(begin + at, journal::findByteOrNul(begin, end, '<')) << size << ' ' << at;
+          EXPECT_EQ(begin + at, journal::findByteOrNul(begin + at, end, '<')) << size << ' ' << at;
+        }
 }
 
-TEST(FindByte, IsNotTakenInBySimilarBytes) {
+TEST(FindByteOrNul, IsNotTakenInBySimilarBytes) {
   for (std::size_t size = 1; size <= 40; ++size)
-    for (int similar = 0; similar < 256; ++similar) {
+    for (int similar = 1; similar < 256; ++similar) {
       if (similar == '<')
         continue;
       std::vector<char> const text(size, static_cast<char>(similar));
       auto const* const end = text.data() + size;
-      EXPECT_EQ(end, journal::findByte(text.data(), end, '<')) << similar;
+      EXPECT_EQ(end, journal::findByteOrNul(text.data(), end, '<')) << similar;
     }
 }
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <deque>
+#include <initializer_list>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "neighbourhood/Comparison.h"
@@ -31,6 +33,29 @@ protected:
     text = text.substr(0, text.find("</Item>")) + "</Item></LogList>";
     auto const markup = text.find("<1>");
     return markup == std::string::npos ? text : text.replace(markup, 3, "1");
+  }
+
+  // The same with what most calls hold: a reader looks for such elements several at a time.
+  static std::string usualBody() {
+    auto text = body();
+    for (auto const& [name, value] : std::initializer_list<std::pair<std::string, std::string>>{
+             {"ConnectedNumberPriority", "False"},
+             {"ConnectedNumberType", "NO_ICON"},
+             {"NumberPresentation", "ALLOWED"},
+             {"NamePresentation", "ALLOWED"},
+             {"DeflectNumberPresentation", "NOT_AVAILABLE"},
+             {"DeflectNumber", ""},
+             {"DeflectNumberType", "NO_ICON"},
+             {"DeflectNamePresentation", "NOT_AVAILABLE"},
+             {"TimeFormat", "FORM_24"}}) {
+      auto const at = text.find("<" + name + ">");
+      if (at == std::string::npos)
+        continue;
+      auto const close = "</" + name + ">";
+      auto const size = text.find(close) + close.size() - at;
+      text.replace(at, size, value.empty() ? "" : "<" + name + ">" + value + close);
+    }
+    return text;
   }
 
   static comparison::Kind kind() {
@@ -64,12 +89,48 @@ TYPED_TEST(Lookalikes, AreNotReadWhereCloseTagsAreMisspelt) {
 }
 
 TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
-  auto const body = this->body();
-  for (Size at = 0; at < body.size(); ++at) {
-    for (char const other : {static_cast<char>(body[at] ^ 1), '?'}) {
-      auto text = body;
-      text[at] = other;
-      this->expectAsPlainReader(text);
+  for (auto const& body : {this->body(), this->usualBody()})
+    for (Size at = 0; at < body.size(); ++at)
+      for (char const other : {static_cast<char>(body[at] ^ 1), '?'}) {
+        auto text = body;
+        text[at] = other;
+        this->expectAsPlainReader(text);
+      }
+}
+
+// Each element of a usual call on its own: missing, there twice, in another's place, and with one
+// in front that such a call does not have.
+TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverElementIsElsewhere) {
+  auto const body = this->usualBody();
+  auto const item = body.find("<Item>") + 6;
+  std::vector<std::string> elements;
+  for (Size at = item; body.compare(at, 2, "</") != 0;) {
+    auto const end = body.find('>', body.find("</", at)) + 1;
+    elements.push_back(body.substr(at, end - at));
+    at = end;
+  }
+  ASSERT_GT(elements.size(), 6U);
+  auto const expectOf = [&](std::vector<std::string> const& changed) {
+    auto text = body.substr(0, item);
+    for (auto const& element : changed)
+      text += element;
+    this->expectAsPlainReader(text + "</Item></LogList>");
+  };
+  expectOf(elements);
+  for (Size at = 0; at < elements.size(); ++at) {
+    std::vector<std::string> changed;
+    for (auto const& inserted : {elements[at], std::string("<DeflectNumber>1</DeflectNumber>")}) {
+      changed = elements;
+      changed.insert(changed.begin() + static_cast<std::ptrdiff_t>(at), inserted);
+      expectOf(changed);
+    }
+    changed = elements;
+    changed.erase(changed.begin() + static_cast<std::ptrdiff_t>(at));
+    expectOf(changed);
+    for (Size other = 0; other < at; ++other) {
+      changed = elements;
+      std::swap(changed[at], changed[other]);
+      expectOf(changed);
     }
   }
 }
