@@ -31,8 +31,8 @@ constexpr bool isSpecial(char character) {
   return code < 64 && (specials >> code & 1) != 0;
 }
 
-// Names are letters, which all have codes from 64 on: passed over by words, until a word holds
-// another code. The last word overlaps the one before it.
+// Letters all have codes from 64 on. They are passed over by words, up to the first word that holds
+// another code; the last word overlaps the one before it.
 std::size_t lettersAtFrontOf(std::string_view text) {
   using Word = std::uint32_t;
   constexpr Word top = 0x80808080;

@@ -26,7 +26,7 @@ void readItem(std::string_view text, Item& item);
 /// Reads every entry of a message; the items are emptied first.
 /// @param text ends at its first NUL, if it holds one
 /// @return where the message's first Handle can stand: the message without as much of its front as
-///         was seen to hold none; it ends like the text
+///         was seen to hold none; as in the text, a NUL ends it
 template <class Item>
 std::string_view readItems(std::string_view text, std::deque<Item>& items);
 

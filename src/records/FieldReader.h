@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -58,8 +59,9 @@ private:
     return known;
   }
 
-  /// Whether a value is a member's text. 16 bytes can be loaded from the value on: it is of 6
-  /// characters at least, like every member's text, and a tag of 12 at least stands behind it.
+  /// Whether a value is a member's text. 16 bytes can be loaded from the value on: it is a member's
+  /// text itself, or in a text, where it is of 6 characters at least like every member's text, and
+  /// a tag of 12 at least stands behind it.
   JOURNAL_INLINE static inline bool isText(std::string_view value, MemberText const& member) {
     static_assert(sizeof member == detail::frontSize);
     return value.size() == member.size() &&

@@ -6,7 +6,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -67,7 +66,7 @@ struct Field {
   Writing writing;
   Reading reading;
   std::int8_t usual;   // the value that most records hold, or none: see mostly
-  bool joined = false; // whether it is as usual whenever the row in front is: see along
+  bool joined = false; // whether it is mostly as usual when the row in front is: see along
 
   constexpr Content content() const { return member.content; }
   /// The usual value as it stands in a text, or missing.
@@ -98,15 +97,15 @@ constexpr Field mostly(Member member, int usual, Reading reading = Reading::stor
   return {element<name>, member, Writing::raw, reading, static_cast<std::int8_t>(usual)};
 }
 
-/// The row of an element that carries this value whenever the row in front is as usual, so that
-/// both are looked for at once.
+/// The row of an element that nearly always carries this value when the row in front is as usual,
+/// so that both are looked for at once.
 template <std::string_view const& name>
 constexpr Field along(Member member, int usual) {
   return {element<name>, member, Writing::raw, Reading::stored, static_cast<std::int8_t>(usual),
           true};
 }
 
-/// The row of a text that is missing whenever the rows around it are as usual.
+/// The row of a text that nearly always is missing when the rows around it are as usual.
 template <std::string_view const& name>
 constexpr Field missingAlong(Member member) {
   return {element<name>, member, Writing::raw, Reading::stored, Field::none, true};

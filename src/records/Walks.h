@@ -61,7 +61,7 @@ class Run {
 
   template <class Take>
   static constexpr void forEachPiece(Take take) {
-    if (isIn(first)) // of another row
+    if (isIn(first)) // the run of another row
       return;
     for (auto at = first; at == first || isIn(at); ++at)
       if (rows[at].usual != Field::none)
@@ -85,7 +85,7 @@ class Run {
     return run;
   }();
 
-  // No run begins or ends with a text that is missing: only elements around it show that it is.
+  // No run begins or ends with a missing text: only elements on both sides show that it is missing.
   static_assert(rows[first].usual != Field::none || isIn(first) == isIn(first + 1));
 
 public:

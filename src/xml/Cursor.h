@@ -2,9 +2,11 @@
 #ifndef JOURNAL_XML_CURSOR_H
 #define JOURNAL_XML_CURSOR_H
 
+#include <cstddef>
 #include <string_view>
 
 #include "vocabulary/Tags.h"
+#include "xml/Bytes.h"
 #include "xml/Text.h"
 
 namespace journal {
@@ -82,9 +84,15 @@ public:
 private:
   /// Where a tag is, if no NUL is in front of it.
   std::size_t find(std::string_view tag) const {
-    auto const at = rest_.find(tag);
-    auto const inFront = rest_.substr(0, at);
-    return inFront.find('\0') == std::string_view::npos ? at : std::string_view::npos;
+    auto const* const front = rest_.data();
+    auto const* const end = front + rest_.size();
+    for (auto const* at = front;; ++at) {
+      at = findByteOrNul(at, end, tag.front());
+      if (static_cast<std::size_t>(end - at) < tag.size() || *at == '\0')
+        return std::string_view::npos;
+      if (sameBytes(at, tag.data(), tag.size()))
+        return static_cast<std::size_t>(at - front);
+    }
   }
 
   std::string_view rest_;

@@ -14,9 +14,8 @@ namespace journal {
 
 /// Reads forward and never searches. Wherever a text holds nothing but elements that are taken here
 /// one after the other, each at most once, no tag occurs anywhere else in it (a value taken here
-/// holds no "<"; nor a NUL, where the text would end), and every search of the general road would
-/// end where this pass found the element. At the first thing that is not so, the pass gives up and
-/// the general road decides.
+/// holds no "<"), and every search of the general road would end where this pass found the element.
+/// At the first thing that is not so, or at a NUL, the pass gives up and the general road decides.
 class Forward {
 public:
   explicit Forward(std::string_view text) : at_(text.data()), end_(at_ + text.size()) {}

@@ -59,6 +59,7 @@ std::vector<Shape> const& all() {
       {"repeated-method-tags", "<Method>", "<getMissedCalls><get", "</Method>"},
       {"near-misses", "", "<Entr<LogLis<Ite<UniqueI<Numbe<Metho</Entr", ""},
       {"less-than-signs", "", "<", ""},
+      {"less-than-signs-behind-a-nul", std::string("<Entry>\0", 8), "<", ""},
       {"ampersands", "<Entry><UniqueId>", "&", "</UniqueId><LogList></LogList></Entry>"},
       {"entities", "<Entry><UniqueId>", "&amp;", "</UniqueId><LogList></LogList></Entry>"},
       {"digits", "<UniqueId>", "0", "</UniqueId>"},
