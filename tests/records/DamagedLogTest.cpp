@@ -72,7 +72,7 @@ TYPED_TEST(DamagedLog, ANulAtEveryPositionCutsTheText) {
     std::string const whole = this->text(handleInFront);
     for (std::string::size_type at = 0; at < whole.size(); ++at) {
       auto const cut = this->read(whole.substr(0, at));
-      for (std::string::size_type const replaced : {0, 1}) {
+      for (std::string::size_type const replaced : {0U, 1U}) {
         std::string damaged = whole;
         damaged.replace(at, replaced, 1, '\0');
         std::string const before = damaged;
