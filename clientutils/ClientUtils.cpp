@@ -119,8 +119,11 @@ std::string ClientUtils::escapeXMLString(std::string const& text) {
 }
 
 std::string ClientUtils::unescapeXMLString(std::string const& text) {
-  auto const ampersand = std::string_view(text).find('&');
-  return ampersand == std::string_view::npos ? text : unescapedFrom(ampersand, text);
+  auto const* const ampersand =
+      static_cast<char const*>(std::memchr(text.data(), '&', text.size()));
+  if (ampersand == nullptr)
+    return text;
+  return unescapedFrom(static_cast<std::size_t>(ampersand - text.data()), text);
 }
 
 std::string ClientUtils::itos(int value) {

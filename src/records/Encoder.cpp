@@ -11,6 +11,7 @@
 #include "records/Walks.h"
 #include "xml/Appender.h"
 #include "xml/Building.h"
+#include "xml/Remake.h"
 
 namespace journal {
 namespace {
@@ -51,13 +52,16 @@ public:
   /// Appends a record's elements, empty ones left out, between two texts.
   template <class Rows>
   void append(std::string_view before, Rows rows, void const* record, std::string_view behind) {
-    escape(rows, record);
-    auto const bound = before.size() + boundOf(rows, record) + behind.size();
+    auto const escaped = escape(rows, record);
+    auto const bound = before.size() + boundOf(rows, record, escaped) + behind.size();
     auto* const fields = putTag(appender_.room(bound), before);
-    appender_.endAt(putTag(putRecord(fields, rows, record), behind));
+    appender_.endAt(putTag(putRecord(fields, rows, record, escaped), behind));
   }
 
 private:
+  /// What became of a record's escaped texts, in the order of its rows.
+  using Escaped = std::array<std::string_view, mostEscaped>;
+
   /// What is written of a text: the text itself or, taking the next in turn, what became of it.
   using Texts = std::string_view const*;
   JOURNAL_INLINE static inline std::string_view textIn(void const* record, Field const& row,
@@ -67,36 +71,30 @@ private:
   }
 
   template <class Rows>
-  JOURNAL_INLINE inline void escape(Rows rows, void const* record) {
+  JOURNAL_INLINE inline Escaped escape(Rows rows, void const* record) {
+    Escaped escaped;
     std::size_t next = 0;
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
       if (row.writing != Writing::escaped)
         return;
       auto const& text = *static_cast<std::string const*>(row.in(record));
-      escaped_[next] = text.empty() ? escapedNothing() : keep(next, text);
+      escaped[next] = text.empty() ? std::string_view(nothing_) : keep(next, text);
       ++next;
     });
+    return escaped;
   }
 
   std::string_view keep(std::size_t index, std::string const& text) {
-    return kept_[index] = ClientUtils::escapeXMLString(text);
-  }
-
-  /// What the utility library makes of an empty text is its to say: an empty one, if it is like
-  /// others. Many names are empty, so it is asked once.
-  JOURNAL_INLINE inline std::string_view escapedNothing() {
-    if (!asked_) {
-      nothing_ = ClientUtils::escapeXMLString(nothing_);
-      asked_ = true;
-    }
-    return nothing_;
+    remake(kept_[index], ClientUtils::escapeXMLString, text);
+    return kept_[index];
   }
 
   /// The most that a record's elements can take: all tags and all texts.
   template <class Rows>
-  JOURNAL_INLINE inline std::size_t boundOf(Rows rows, void const* record) const {
+  JOURNAL_INLINE static inline std::size_t boundOf(Rows rows, void const* record,
+                                                   Escaped const& escaped) {
     std::size_t bound = 0;
-    Texts next = escaped_.data();
+    Texts next = escaped.data();
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
       bound += row.element.begin().size() + row.element.close().size();
       bound +=
@@ -106,8 +104,9 @@ private:
   }
 
   template <class Rows>
-  JOURNAL_INLINE inline char* putRecord(char* at, Rows rows, void const* record) const {
-    Texts next = escaped_.data();
+  JOURNAL_INLINE static inline char* putRecord(char* at, Rows rows, void const* record,
+                                               Escaped const& escaped) {
+    Texts next = escaped.data();
     forEach(rows, [&](Field const& row) JOURNAL_INLINE {
       if (row.content() == Content::text) {
         auto const text = textIn(record, row, next);
@@ -125,11 +124,10 @@ private:
   }
 
   Appender appender_;
-  // A record's escaped texts, in the order of its rows, and what keeps those that are not empty.
-  std::array<std::string_view, mostEscaped> escaped_;
-  std::array<std::string, mostEscaped> kept_;
-  std::string nothing_;
-  bool asked_ = false;
+  std::array<std::string, mostEscaped> kept_; // a record's escaped texts
+  // What the utility library makes of an empty text is its to say: an empty one, if it is like
+  // others. Many names are empty, so it is asked once.
+  std::string const nothing_ = ClientUtils::escapeXMLString({});
 };
 
 /// The records of a kind for a writer that does not know their types.

@@ -73,6 +73,9 @@ private:
   /// Puts what the utility library makes of a value in a text's place. The text is empty if there
   /// is no memory for it.
   void replace(std::string& text, std::string_view raw);
+  /// The same for a text that is long or the first of its size.
+  [[gnu::noinline]] void replaceUnprepared(std::string& text, std::string_view raw);
+  /// A text as the utility library takes it.
   std::string const& argument(std::string_view raw);
 
   static constexpr std::int8_t unknown = -1;
