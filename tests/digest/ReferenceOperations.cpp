@@ -1,0 +1,5 @@
+// The operations of the plain implementation.
+#include "digest/OperationTable.h"
+#include "reference/Reference.h"
+
+template std::vector<operations::Operation> operations::all<Reference>();
