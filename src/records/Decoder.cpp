@@ -162,6 +162,17 @@ std::string_view readItems(std::string_view text, Layout const& layout, void* it
   return unknown;
 }
 
+/// Becomes a record that holds its members' defaults, in the place where it is to stand. Made from
+/// nothing, as by emplace_back(), a record would be filled with zeros first, which took up to a
+/// tenth of the time of decoding.
+template <class Record>
+struct Defaults {
+  operator Record() const {
+    Record record;
+    return record;
+  }
+};
+
 template <class Item>
 struct Records {
   using Info = typename Kind<Item>::Info;
@@ -174,10 +185,14 @@ struct Records {
   static bool takeDetail(Forward& forward, void* info, FieldReader& reader) {
     return takeFields(rowsOf<Kind<Item>::detail>(), forward, info, reader);
   }
-  static void* addItem(void* items) { return &static_cast<Items*>(items)->emplace_back(); }
+  static void* addItem(void* items) {
+    return &static_cast<Items*>(items)->emplace_back(Defaults<Item>());
+  }
   static void dropItem(void* items) { static_cast<Items*>(items)->pop_back(); }
   static void* infosOf(void* item) { return &static_cast<Item*>(item)->callInfoList; }
-  static void* addInfo(void* infos) { return &static_cast<Infos*>(infos)->emplace_back(); }
+  static void* addInfo(void* infos) {
+    return &static_cast<Infos*>(infos)->emplace_back(Defaults<Info>());
+  }
   static void clearInfos(void* infos) { static_cast<Infos*>(infos)->clear(); }
 
   static constexpr Layout layout = {Kind<Item>::entry, Kind<Item>::detailRead,
