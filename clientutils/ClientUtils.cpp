@@ -7,6 +7,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "Ampersand.h"
+
 namespace {
 
 struct Entity {
@@ -89,25 +91,24 @@ Entity entityAtFrontOf(std::string_view text) {
 
 // Hands the pieces of an escaped text on: what stands between the entities, and their characters.
 template <class Take>
-void unescape(std::size_t ampersand, std::string_view rest, Take take) {
-  while (ampersand != std::string_view::npos) {
-    take(rest.substr(0, ampersand));
-    rest.remove_prefix(ampersand);
+void unescape(std::string_view rest, Take take) {
+  for (auto at = rest.find('&'); at != std::string_view::npos; at = rest.find('&')) {
+    take(rest.substr(0, at));
+    rest.remove_prefix(at);
     Entity const entity = entityAtFrontOf(rest);
     take({&entity.character, 1});
     rest.remove_prefix(entity.text.size());
-    ampersand = rest.find('&');
   }
   take(rest);
 }
 
-[[gnu::noinline]] std::string unescapedFrom(std::size_t ampersand, std::string_view text) {
+[[gnu::noinline]] std::string unescaped(std::string const& text) {
   // Measured first: a name that is short without its entities then takes no memory of its own.
   std::size_t size = 0;
-  unescape(ampersand, text, [&size](std::string_view piece) { size += piece.size(); });
+  unescape(text, [&size](std::string_view piece) { size += piece.size(); });
   std::string unescaped;
   unescaped.reserve(size);
-  unescape(ampersand, text, [&unescaped](std::string_view piece) { unescaped += piece; });
+  unescape(text, [&unescaped](std::string_view piece) { unescaped += piece; });
   return unescaped;
 }
 
@@ -119,11 +120,7 @@ std::string ClientUtils::escapeXMLString(std::string const& text) {
 }
 
 std::string ClientUtils::unescapeXMLString(std::string const& text) {
-  auto const* const ampersand =
-      static_cast<char const*>(std::memchr(text.data(), '&', text.size()));
-  if (ampersand == nullptr)
-    return text;
-  return unescapedFrom(static_cast<std::size_t>(ampersand - text.data()), text);
+  return ampersand::isIn(text) ? unescaped(text) : text;
 }
 
 std::string ClientUtils::itos(int value) {
