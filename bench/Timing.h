@@ -30,25 +30,35 @@ bool proven(benchmark::State& state, std::string const& name, std::function<bool
 /// Whether any result was wrong.
 bool anyWrong();
 
+/// Whether destroying an operation's result counts as a part of it.
+enum class Destruction { counted, leftOut };
+
 /// Times operation(), which has to prove itself by check(). Its first run is not timed, so that the
 /// caches are in the state that repeating it gives; a large log runs only once in a round.
-template <class Operation>
+template <Destruction destruction = Destruction::counted, class Operation>
 void timeProven(benchmark::State& state, std::string const& name, Operation operation,
                 std::function<bool()> const& check) {
   if (!proven(state, name, check))
     return;
-  auto const run = [&] {
+  auto const run = [&](auto pause) {
     auto&& result = operation();
     benchmark::DoNotOptimize(&result);
     benchmark::ClobberMemory();
+    pause();
   };
-  run();
+  run([] {});
   for (auto _ : state)
-    run();
+    if constexpr (destruction == Destruction::counted) {
+      run([] {});
+    } else {
+      run([&state] { state.PauseTiming(); });
+      state.ResumeTiming();
+    }
 }
 
 void registerDecoding();
 void registerEncoding();
+void registerHundreds();
 void registerDamagedTexts();
 void registerSmallOperations();
 

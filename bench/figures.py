@@ -112,6 +112,11 @@ def growth(what, who, name, target=None):
                   f"{what}/{{}}/100/{who}", at_most=target, per_byte=True)
 
 
+def hundreds(what):
+    return Figure(f"{what}: time per byte, 20,000 / 200 logs of 100", f"{what}/{{}}/20000/library",
+                  f"{what}/{{}}/20000/hundreds", per_byte=True)
+
+
 FIGURES = (
     bound("decode", "copy", "decode / deep copy of its result", 2.3),
     against("decode", "RapidXML", "rapidxml", 3.7),
@@ -125,10 +130,14 @@ FIGURES = (
     against("encode", "Protobuf on an arena", "protobuf-arena", 4.6),
     against("encode", "Protobuf, kept", "protobuf-kept", 4.6),
     *map(damaged, DAMAGES),
+    growth("decode-alone", "library", "decode, destruction left out", 1.4),
     growth("decode", "library", "decode", 1.4),
     growth("encode", "library", "encode", 1.4),
+    growth("decode-alone", "copy", "deep copy, destruction left out"),
     growth("decode", "copy", "deep copy"),
     growth("encode", "memcpy", "memcpy"),
+    hundreds("decode"),
+    hundreds("encode"),
     against("decode", "expat", "expat"),
     against("decode", "TinyXML-2", "tinyxml2"),
     against("decode", "plain oracle", "oracle"),

@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
     return 2;
   bench::registerDecoding();
   bench::registerEncoding();
+  bench::registerHundreds();
   bench::registerDamagedTexts();
   bench::registerSmallOperations();
   benchmark::Initialize(&argc, argv);
