@@ -37,7 +37,7 @@ void addKind(std::size_t size) {
   add<Kind>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
   add<Kind>("handle", size, [](S const& s) { return LibraryHandleDecoder<Kind>{s.message}; });
   add<Kind>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });
-  if (size == COMPARED_SIZE || size == LARGE) { // what the growth is told by
+  if (size == COMPARED_SIZE || size == LARGE) { // what the growth compares
     constexpr auto leftOut = Destruction::leftOut;
     add<Kind, leftOut>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
     add<Kind, leftOut>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });

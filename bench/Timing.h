@@ -40,11 +40,11 @@ void timeProven(benchmark::State& state, std::string const& name, Operation oper
                 std::function<bool()> const& check) {
   if (!proven(state, name, check))
     return;
-  auto const run = [&](auto pause) {
+  auto const run = [&](auto beforeDestruction) {
     auto&& result = operation();
     benchmark::DoNotOptimize(&result);
     benchmark::ClobberMemory();
-    pause();
+    beforeDestruction();
   };
   run([] {});
   for (auto _ : state)

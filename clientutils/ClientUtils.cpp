@@ -102,7 +102,7 @@ void unescape(std::string_view rest, Take take) {
   take(rest);
 }
 
-[[gnu::noinline]] std::string unescaped(std::string const& text) {
+[[gnu::noinline]] std::string restored(std::string const& text) {
   // Measured first: a name that is short without its entities then takes no memory of its own.
   std::size_t size = 0;
   unescape(text, [&size](std::string_view piece) { size += piece.size(); });
@@ -120,7 +120,7 @@ std::string ClientUtils::escapeXMLString(std::string const& text) {
 }
 
 std::string ClientUtils::unescapeXMLString(std::string const& text) {
-  return ampersand::isIn(text) ? unescaped(text) : text;
+  return ampersand::isIn(text) ? restored(text) : text;
 }
 
 std::string ClientUtils::itos(int value) {
