@@ -15,7 +15,8 @@
 
 namespace ampersand {
 
-inline constexpr std::size_t shortest = 4; // of the short texts
+// The sizes of the texts that count as short.
+inline constexpr std::size_t shortest = 4;
 inline constexpr std::size_t longest = 32;
 
 #ifdef __SSE2__
@@ -78,6 +79,7 @@ inline bool isInShort(char const* text, std::size_t size) {
   return std::memchr(text, '&', size) != nullptr;
 }
 
+/// Whether a text, of any length and with any bytes, holds an ampersand.
 inline bool isIn(std::string_view text) {
   auto const size = text.size();
   return size < shortest || size > longest ? isInOther(text.data(), size)
