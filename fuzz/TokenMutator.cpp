@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Fuzz.h"
-#include "neighbourhood/Messages.h"
+#include "differential/Messages.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
@@ -32,7 +32,7 @@ private:
 };
 
 std::string_view letter(Random& random) {
-  static std::vector<std::string> const letters = neighbourhood::alphabet(true);
+  static std::vector<std::string> const letters = differential::alphabet(true);
   return letters[random.below(letters.size())];
 }
 

@@ -1,7 +1,7 @@
 // Fuzzes the decoders: the first byte chooses the kind of log and what the outputs hold before, the
 // second how much is decoded, from one call up to a whole log.
 #include "Fuzz.h"
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 std::size_t const fuzz::selectorBytes = 2;
 

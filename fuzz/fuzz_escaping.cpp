@@ -1,7 +1,7 @@
 // Fuzzes escaping and unescaping; by the first byte, now and then, also numbers and everything else
 // that takes a single word: conversions and the builders of elements.
 #include "Fuzz.h"
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 std::size_t const fuzz::selectorBytes = 1;
 

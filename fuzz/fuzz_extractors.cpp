@@ -1,7 +1,7 @@
 // Fuzzes the extractors of single elements: the first byte chooses the element, the second the
 // extractor.
 #include "Fuzz.h"
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 std::size_t const fuzz::selectorBytes = 2;
 

@@ -1,7 +1,7 @@
 // Fuzzes what reads and finishes whole messages: the method, the failure word, the last unique id,
 // the call-log setting, the envelope. The first byte chooses among them.
 #include "Fuzz.h"
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 std::size_t const fuzz::selectorBytes = 1;
 

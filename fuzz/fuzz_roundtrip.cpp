@@ -7,9 +7,9 @@
 #include <string_view>
 
 #include "Fuzz.h"
-#include "neighbourhood/Comparison.h"
-#include "neighbourhood/KindOperations.h"
-#include "neighbourhood/RecordFields.h"
+#include "differential/Comparison.h"
+#include "differential/KindOperations.h"
+#include "differential/RecordFields.h"
 
 std::size_t const fuzz::selectorBytes = 3;
 

@@ -7,10 +7,10 @@ target_link_libraries(journal_fuzz_comparison PUBLIC
   JournalServiceHelper::JournalServiceHelper JournalServiceHelper::ClientUtils)
 
 foreach(target IN LISTS JOURNAL_FUZZ_TARGETS)
-  add_executable(replay_${target} ${JOURNAL_FUZZ_DIR}/${target}.cpp ${JOURNAL_FUZZ_DIR}/replay.cpp)
-  target_link_libraries(replay_${target} PRIVATE journal_fuzz_comparison)
+  add_executable(journal_replay_${target} ${JOURNAL_FUZZ_DIR}/${target}.cpp ${JOURNAL_FUZZ_DIR}/replay.cpp)
+  target_link_libraries(journal_replay_${target} PRIVATE journal_fuzz_comparison)
   string(REPLACE "fuzz_" "fuzz_corpus_" test ${target})
   add_test(NAME ${test}
-    COMMAND replay_${target} ${JOURNAL_FUZZ_DIR}/corpus/${target})
+    COMMAND journal_replay_${target} ${JOURNAL_FUZZ_DIR}/corpus/${target})
   set_tests_properties(${test} PROPERTIES TIMEOUT 600)
 endforeach()

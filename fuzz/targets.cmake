@@ -6,6 +6,6 @@ set(JOURNAL_FUZZ_TARGETS
 # The reference, and the comparison of the library with it.
 get_filename_component(journal_tests ${JOURNAL_FUZZ_DIR}/../tests ABSOLUTE)
 file(GLOB JOURNAL_FUZZ_COMPARISON CONFIGURE_DEPENDS
-  ${journal_tests}/reference/*.cpp ${journal_tests}/neighbourhood/*.cpp)
+  ${journal_tests}/reference/*.cpp ${journal_tests}/differential/*.cpp)
 list(FILTER JOURNAL_FUZZ_COMPARISON EXCLUDE REGEX "Test\\.cpp$")
 set(JOURNAL_FUZZ_INCLUDES ${JOURNAL_FUZZ_DIR} ${journal_tests})

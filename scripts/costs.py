@@ -47,14 +47,14 @@ def on_mips(library):
     def count(*arguments):
         shown = output_of('qemu-mips', '-L', MIPS_ROOT, '-plugin', WORK / 'count_plugin.so',
                           '-E', f'LD_LIBRARY_PATH={library}/src:{library}/clientutils',
-                          'build/mips/tests/costs/costs', *arguments, env={})
+                          'build/mips/tests/costs/journal_costs', *arguments, env={})
         return int(re.search(r'instructions: (\d+)', shown)[1])
     return count
 
 
 def on_x86_64(*arguments):
     shown = output_of('valgrind', '--tool=callgrind', '--callgrind-out-file=/dev/null',
-                      'build/release/tests/costs/costs', *arguments, env={'PATH': os.environ['PATH']})
+                      'build/release/tests/costs/journal_costs', *arguments, env={'PATH': os.environ['PATH']})
     return int(re.search(r'Collected : (\d+)', shown)[1])
 
 

@@ -4,14 +4,14 @@
 function(add_show_test name code text)
   add_test(NAME tool_show_${name}
     COMMAND sh "${PROJECT_SOURCE_DIR}/examples/expect.sh" ${code} "${text}"
-      ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal-show> ${ARGN})
+      ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal_show> ${ARGN})
 endfunction()
 
 # The same, with the tool behind a shell line, where it stands as "$@".
 function(add_shell_test name code text line)
   add_test(NAME tool_show_${name}
     COMMAND sh "${PROJECT_SOURCE_DIR}/examples/expect.sh" ${code} "${text}" sh -c "${line}" sh
-      ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal-show> ${ARGN})
+      ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal_show> ${ARGN})
 endfunction()
 
 # Writes a message and shows it.
@@ -49,7 +49,7 @@ add_show_test(entry_body 1 "no method, store request or answer is recognised"
   "${golden}/missed-full.xml")
 add_test(NAME tool_show_whole_output
   COMMAND sh -c "\"$@\" | diff \"$0\" -" "${CMAKE_CURRENT_SOURCE_DIR}/expected/notification.txt"
-    ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal-show> --values
+    ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:journal_show> --values
     "${golden}/obsReqMissedCallsUpdate-removing.xml")
 
 set(declaration "<?xml version=\"1.0\" encoding=\"utf-8\"?>")

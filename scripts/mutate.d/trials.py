@@ -13,8 +13,8 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 WORK = ROOT / 'build' / 'mutate'
-LIBRARIES = 'JournalServiceHelper', 'ClientUtils'
-UNITS = 'bytes_test', 'bytes_by_words_test', 'bytes_for_size_test'  # soon built from a few sources
+LIBRARIES = 'journal_service_helper', 'journal_client_utils'
+UNITS = 'journal_bytes_test', 'journal_bytes_by_words_test', 'journal_bytes_for_size_test'  # soon built from a few sources
 
 # Unoptimised code builds fastest. `memory` bounds what a test may take, so that a mutant that
 # takes more and more fails; sanitizers and qemu reserve more than they use.
@@ -28,7 +28,7 @@ OTHERS = [
 if shutil.which('mips-linux-gnu-g++') and shutil.which('qemu-mips'):
     OTHERS.append(Build('mips', ['-DCMAKE_CXX_FLAGS=-O1 -w', '-DCMAKE_TOOLCHAIN_FILE='
                                  'cmake/toolchains/mips-linux-gnu.cmake']))
-FEW_TEXTS = {'JOURNAL_NEIGHBOURHOOD_TEXTS': '10000'}
+FEW_TEXTS = {'JOURNAL_DIFFERENTIAL_TEXTS': '10000'}
 SLOW_SUITE = 0.2  # seconds; suites that take longer run after all others
 
 

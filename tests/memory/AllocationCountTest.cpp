@@ -13,7 +13,7 @@
 #include "JournalServiceHelper.h"
 #include "memory/Allocations.h"
 #include "memory/RealisticLog.h"
-#include "neighbourhood/KindOperations.h"
+#include "differential/KindOperations.h"
 
 namespace {
 

@@ -11,14 +11,14 @@
 
 #include <gtest/gtest.h>
 
-#include "digest/Operations.h"
+#include "operations/Operations.h"
 #include "memory/Allocations.h"
 #include "memory/Scenes.h"
 
 namespace {
 
 using allocations::Failing;
-using operations::Digest;
+using operations::ResultHash;
 using operations::Input;
 using operations::NO_KIND;
 using operations::Operation;
@@ -33,20 +33,20 @@ std::set<std::string> const allocateNever = {
     "getXMLValue/cursor,flag",        "isNonFailureResponse",    "respBool",
 };
 
-std::uint64_t digestOf(Operation const& operation, Outputs const& outputs) {
-  Digest digest;
-  operation.feed(outputs, digest);
-  return digest.value();
+std::uint64_t hashOf(Operation const& operation, Outputs const& outputs) {
+  ResultHash hash;
+  operation.feed(outputs, hash);
+  return hash.value();
 }
 
-std::uint64_t digestOf(Input const& input) {
-  Digest digest;
+std::uint64_t hashOf(Input const& input) {
+  ResultHash hash;
   for (auto const* text : {&input.text, &input.name, &input.begin, &input.close})
-    digest.feed(*text);
+    hash.feed(*text);
   for (auto const& id : input.ids)
-    digest.feed(id);
-  std::apply([&digest](auto const&... record) { (digest.feed(record), ...); }, input.records);
-  return digest.value();
+    hash.feed(id);
+  std::apply([&hash](auto const&... record) { (hash.feed(record), ...); }, input.records);
+  return hash.value();
 }
 
 Outputs outputsFor(Input const& input, bool filled) {
@@ -135,8 +135,8 @@ private:
                        Failing failing) {
     auto straight = outputsFor(input, filled);
     operation.run(input, straight);
-    auto const expected = digestOf(operation, straight);
-    auto const inputBefore = digestOf(input);
+    auto const expected = hashOf(operation, straight);
+    auto const inputBefore = hashOf(input);
 
     long injected = 0;
     bool failed = true;
@@ -144,7 +144,7 @@ private:
       auto const liveBefore = allocations::live();
       auto const injectedNow = runFailing(operation, input, filled, {nth, failing}, expected);
       EXPECT_EQ(allocations::live(), liveBefore) << "leaked when allocation " << nth << " failed";
-      EXPECT_EQ(digestOf(input), inputBefore) << "when allocation " << nth << " failed";
+      EXPECT_EQ(hashOf(input), inputBefore) << "when allocation " << nth << " failed";
       failed = injectedNow > 0;
       injected += injectedNow;
     }
@@ -178,7 +178,7 @@ private:
         expectValidRecords(operation.kind, outputs, operations_);
       runAgain(operation, input, outputs);
     }
-    EXPECT_EQ(digestOf(operation, outputs), expected) << "after allocation " << when.nth;
+    EXPECT_EQ(hashOf(operation, outputs), expected) << "after allocation " << when.nth;
     return injected;
   }
 

@@ -7,8 +7,8 @@
 #include <deque>
 #include <string>
 
-#include "digest/Inputs.h"
-#include "digest/Operations.h"
+#include "operations/Inputs.h"
+#include "operations/Operations.h"
 
 namespace realistic {
 

@@ -5,7 +5,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "neighbourhood/RecordFields.h"
+#include "differential/RecordFields.h"
 
 namespace scenes {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "digest/Operations.h"
+#include "operations/Operations.h"
 
 namespace scenes {
 

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 #include "records/TestedKinds.h"
 
 namespace {

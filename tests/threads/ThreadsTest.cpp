@@ -12,11 +12,11 @@
 
 #include <gtest/gtest.h>
 
-#include "digest/Inputs.h"
+#include "operations/Inputs.h"
 
 namespace {
 
-using operations::Digest;
+using operations::ResultHash;
 using operations::Input;
 using operations::Operation;
 using operations::Outputs;
@@ -62,9 +62,9 @@ std::vector<Input> sharedInputs() {
 std::uint64_t resultOf(Operation const& operation, Input const& input) {
   Outputs outputs(input);
   operation.run(input, outputs);
-  Digest digest;
-  operation.feed(outputs, digest);
-  return digest.value();
+  ResultHash hash;
+  operation.feed(outputs, hash);
+  return hash.value();
 }
 
 TEST(Threads, UseEveryOperationAtOnce) {

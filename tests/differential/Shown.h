@@ -1,6 +1,6 @@
 // Inputs and results in readable form, for the description of a difference.
-#ifndef TESTS_NEIGHBOURHOOD_SHOWN_H
-#define TESTS_NEIGHBOURHOOD_SHOWN_H
+#ifndef TESTS_DIFFERENTIAL_SHOWN_H
+#define TESTS_DIFFERENTIAL_SHOWN_H
 
 #include <deque>
 #include <list>
@@ -8,8 +8,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "neighbourhood/Comparison.h"
-#include "neighbourhood/RecordFields.h"
+#include "differential/Comparison.h"
+#include "differential/RecordFields.h"
 
 namespace comparison {
 

@@ -4,7 +4,7 @@
 
 #include <ostream>
 
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The operations on one kind of log under names without the kind, for the library and for the
 // reference: KindOperations<MissedCallItem, JournalServiceHelper>::readCall and so on.
-#ifndef TESTS_NEIGHBOURHOOD_KINDOPERATIONS_H
-#define TESTS_NEIGHBOURHOOD_KINDOPERATIONS_H
+#ifndef TESTS_DIFFERENTIAL_KINDOPERATIONS_H
+#define TESTS_DIFFERENTIAL_KINDOPERATIONS_H
 
 #include <deque>
 #include <list>

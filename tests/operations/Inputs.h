@@ -1,6 +1,6 @@
 // Inputs made by a generator of our own, so that they are the same on every machine.
-#ifndef TESTS_DIGEST_INPUTS_H
-#define TESTS_DIGEST_INPUTS_H
+#ifndef TESTS_OPERATIONS_INPUTS_H
+#define TESTS_OPERATIONS_INPUTS_H
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "digest/Operations.h"
-#include "neighbourhood/RecordFields.h"
+#include "operations/Operations.h"
+#include "differential/RecordFields.h"
 
 namespace operations {
 

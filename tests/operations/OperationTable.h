@@ -1,6 +1,6 @@
 // How the table of operations is made: from each operation's parameters.
-#ifndef TESTS_DIGEST_OPERATIONTABLE_H
-#define TESTS_DIGEST_OPERATIONTABLE_H
+#ifndef TESTS_OPERATIONS_OPERATIONTABLE_H
+#define TESTS_OPERATIONS_OPERATIONTABLE_H
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "digest/Operations.h"
+#include "operations/Operations.h"
 
 namespace operations {
 
@@ -119,14 +119,14 @@ Operation make(char const* name, Result (*function)(Parameters...), std::index_s
     else
       keep(function(pass<Parameters, index, atCursor>(in, out)...), in, out);
   };
-  made.feed = [](Outputs const& out, Digest& digest) {
+  made.feed = [](Outputs const& out, ResultHash& hash) {
     if constexpr (std::is_same_v<Result, std::string>)
-      digest.feed(out.resultText);
+      hash.feed(out.resultText);
     else if constexpr (!std::is_void_v<Result>)
-      digest.feed(out.result);
+      hash.feed(out.result);
     [[maybe_unused]] auto const feedOutput = [&](bool written, auto const& value) {
       if (written)
-        digest.feed(value);
+        hash.feed(value);
     };
     (feedOutput(isOutput<Parameters>, output<Parameters, index>(out)), ...);
   };

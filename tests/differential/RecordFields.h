@@ -1,6 +1,6 @@
 // The fields of the call-log records in a row, to be compared, filled and printed alike.
-#ifndef TESTS_NEIGHBOURHOOD_RECORDFIELDS_H
-#define TESTS_NEIGHBOURHOOD_RECORDFIELDS_H
+#ifndef TESTS_DIFFERENTIAL_RECORDFIELDS_H
+#define TESTS_DIFFERENTIAL_RECORDFIELDS_H
 
 #include <algorithm>
 #include <deque>

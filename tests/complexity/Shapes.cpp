@@ -1,5 +1,5 @@
 // Hostile inputs: texts and records of any size, each of one shape.
-#include "growth/Shapes.h"
+#include "complexity/Shapes.h"
 
 #include <deque>
 #include <string>

@@ -3,7 +3,7 @@
 // One edit is tried exhaustively. Pairs of edits are far too many, so they are walked with a fixed
 // stride until enough texts were compared. Texts that are reached twice count once.
 //
-// JOURNAL_NEIGHBOURHOOD_TEXTS says how many texts are asked for in all, JOURNAL_LONG=1 asks for
+// JOURNAL_DIFFERENTIAL_TEXTS says how many texts are asked for in all, JOURNAL_LONG=1 asks for
 // five million; see askedFor().
 #include <gtest/gtest.h>
 
@@ -16,22 +16,22 @@
 #include <utility>
 #include <vector>
 
-#include "neighbourhood/Comparison.h"
-#include "neighbourhood/Edits.h"
-#include "neighbourhood/Messages.h"
+#include "differential/Comparison.h"
+#include "differential/Edits.h"
+#include "differential/Messages.h"
 
 namespace {
 
 using comparison::Kind;
-using neighbourhood::Edits;
-using neighbourhood::Message;
+using differential::Edits;
+using differential::Message;
 
 constexpr std::uint64_t usualTexts = 200000;
 constexpr std::uint64_t longRunTexts = 5000000;
 constexpr std::uint64_t parts = 5; // tests that share the texts asked for
 
 std::uint64_t askedFor() {
-  char const* const texts = std::getenv("JOURNAL_NEIGHBOURHOOD_TEXTS");
+  char const* const texts = std::getenv("JOURNAL_DIFFERENTIAL_TEXTS");
   if (texts != nullptr && *texts != '\0')
     return std::strtoull(texts, nullptr, 10);
   char const* const longRun = std::getenv("JOURNAL_LONG");
@@ -112,7 +112,7 @@ private:
       number -= (edits_.*count)(message->tokens.size());
       ++message;
     }
-    neighbourhood::Tokens tokens(message->tokens.begin(), message->tokens.end());
+    differential::Tokens tokens(message->tokens.begin(), message->tokens.end());
     text.touched.clear();
     (edits_.*apply)(number, tokens, text.touched);
     text.whole.clear();
@@ -166,20 +166,20 @@ void compareTexts(std::vector<Message> const& messages, std::vector<std::string>
   EXPECT_GE(compared, share);
 }
 
-TEST(Neighbourhood, MissedLogs) {
-  compareTexts(neighbourhood::logsOf(Kind::missed), neighbourhood::alphabet(false));
+TEST(Differential, MissedLogs) {
+  compareTexts(differential::logsOf(Kind::missed), differential::alphabet(false));
 }
-TEST(Neighbourhood, DialledLogs) {
-  compareTexts(neighbourhood::logsOf(Kind::dialled), neighbourhood::alphabet(false));
+TEST(Differential, DialledLogs) {
+  compareTexts(differential::logsOf(Kind::dialled), differential::alphabet(false));
 }
-TEST(Neighbourhood, ReceivedLogs) {
-  compareTexts(neighbourhood::logsOf(Kind::received), neighbourhood::alphabet(false));
+TEST(Differential, ReceivedLogs) {
+  compareTexts(differential::logsOf(Kind::received), differential::alphabet(false));
 }
-TEST(Neighbourhood, ForwardedLogs) {
-  compareTexts(neighbourhood::logsOf(Kind::forwarded), neighbourhood::alphabet(false));
+TEST(Differential, ForwardedLogs) {
+  compareTexts(differential::logsOf(Kind::forwarded), differential::alphabet(false));
 }
-TEST(Neighbourhood, OtherMessages) {
-  compareTexts(neighbourhood::otherMessages(), neighbourhood::alphabet(true));
+TEST(Differential, OtherMessages) {
+  compareTexts(differential::otherMessages(), differential::alphabet(true));
 }
 
 } // namespace

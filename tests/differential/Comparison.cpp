@@ -1,12 +1,12 @@
 // The comparison of what reads and writes single elements, words and messages.
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <utility>
 
 #include "ClientUtils.h"
-#include "neighbourhood/Shown.h"
+#include "differential/Shown.h"
 #include "reference/Reference.h"
 
 namespace comparison {

@@ -1,10 +1,10 @@
 // Numbered edits: the number is cut down by the count of each sort of edit in turn.
-#include "neighbourhood/Edits.h"
+#include "differential/Edits.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace neighbourhood {
+namespace differential {
 namespace {
 
 using Difference = Tokens::difference_type;
@@ -147,4 +147,4 @@ std::vector<std::string> elementsOf(std::string_view text) {
   return elements;
 }
 
-} // namespace neighbourhood
+} // namespace differential

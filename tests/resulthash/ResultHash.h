@@ -1,6 +1,6 @@
-// A digest of values that is the same on every machine: FNV-1a with 64 bits, fed byte by byte.
-#ifndef TESTS_DIGEST_DIGEST_H
-#define TESTS_DIGEST_DIGEST_H
+// A hash of values that is the same on every machine: FNV-1a with 64 bits, fed byte by byte.
+#ifndef TESTS_RESULTHASH_RESULTHASH_H
+#define TESTS_RESULTHASH_RESULTHASH_H
 
 #include <cstdint>
 #include <deque>
@@ -8,13 +8,13 @@
 #include <string>
 #include <type_traits>
 
-#include "neighbourhood/RecordFields.h"
+#include "differential/RecordFields.h"
 
 namespace operations {
 
 /// Takes numbers as 32 bits, the lowest byte first, and texts and lists with their length in front,
 /// so that neither word size nor byte order shows, nor where one value ends and the next begins.
-class Digest {
+class ResultHash {
 public:
   std::uint64_t value() const { return value_; }
 

@@ -3,8 +3,8 @@
 // Each function returns an empty text when both agree in everything: results, outputs, how far a
 // cursor moved, and that the input is unchanged (or, where a byte is written, changed alike).
 // Otherwise it returns what differs, on which input. The tests and the fuzz targets share this.
-#ifndef TESTS_NEIGHBOURHOOD_COMPARISON_H
-#define TESTS_NEIGHBOURHOOD_COMPARISON_H
+#ifndef TESTS_DIFFERENTIAL_COMPARISON_H
+#define TESTS_DIFFERENTIAL_COMPARISON_H
 
 #include <deque>
 #include <set>

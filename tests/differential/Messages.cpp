@@ -1,12 +1,12 @@
 // Messages as the reference writes them, kept short so that many texts around them can be tested.
-#include "neighbourhood/Messages.h"
+#include "differential/Messages.h"
 
-#include "neighbourhood/Edits.h"
-#include "neighbourhood/KindOperations.h"
-#include "neighbourhood/RecordFields.h"
+#include "differential/Edits.h"
+#include "differential/KindOperations.h"
+#include "differential/RecordFields.h"
 #include "reference/Reference.h"
 
-namespace neighbourhood {
+namespace differential {
 namespace {
 
 using comparison::Kind;
@@ -225,4 +225,4 @@ std::vector<std::string> alphabet(bool withMethods) {
   return all;
 }
 
-} // namespace neighbourhood
+} // namespace differential

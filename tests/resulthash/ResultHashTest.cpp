@@ -1,4 +1,4 @@
-// One digest of all outputs of all operations over a fixed set of inputs: the same on every
+// One hash of all outputs of all operations over a fixed set of inputs: the same on every
 // machine, whatever its word size and byte order, and the same as the reference's.
 #include <cstddef>
 #include <cstdint>
@@ -7,12 +7,12 @@
 
 #include <gtest/gtest.h>
 
-#include "digest/Inputs.h"
+#include "operations/Inputs.h"
 #include "reference/Reference.h"
 
 namespace {
 
-using operations::Digest;
+using operations::ResultHash;
 using operations::Input;
 using operations::Operation;
 using operations::Outputs;
@@ -26,12 +26,12 @@ constexpr int ROUNDS = 160;          // of new records, and all messages that ar
 constexpr int TEXTS_PER_MESSAGE = 8; // the message itself, and damaged ones
 constexpr int LEAST_TEXTS = 5000;
 
-void run(Operation const& operation, Input const& input, bool filled, Digest& digest) {
+void run(Operation const& operation, Input const& input, bool filled, ResultHash& hash) {
   Outputs outputs(input);
   if (filled)
     outputs.fill(input);
   operation.run(input, outputs);
-  operation.feed(outputs, digest);
+  operation.feed(outputs, hash);
 }
 
 // The three messages of a kind's records, made by the reference so that both sides read the same.
@@ -50,22 +50,22 @@ std::vector<std::string> messagesOf(int kind, std::vector<Operation> const& refe
   return messages;
 }
 
-struct Digests {
+struct Hashes {
   std::uint64_t library;
   std::uint64_t reference;
   int texts;
 };
 
-// Feeds both sides' outputs, each to its own digest.
-class Digesting {
+// Feeds both sides' outputs, each to its own hash.
+class Hasher {
 public:
-  Digests digests() const { return {library_.digest.value(), reference_.digest.value(), texts_}; }
+  Hashes hashes() const { return {library_.hash.value(), reference_.hash.value(), texts_}; }
 
   void writeEverything(Input const& input) {
     for (auto* const side : {&library_, &reference_})
       for (auto const& operation : side->operations)
         if (!operation.readsText)
-          run(operation, input, false, side->digest);
+          run(operation, input, false, side->hash);
   }
 
   // What concerns another kind of log reads only some of the texts.
@@ -75,7 +75,7 @@ public:
       for (auto const& operation : side->operations)
         if (operation.readsText && (operation.kind == operations::NO_KIND ||
                                     operation.kind == kind || operation.kind == otherKind))
-          run(operation, input, texts_ % 2 == 1, side->digest);
+          run(operation, input, texts_ % 2 == 1, side->hash);
     ++texts_;
   }
 
@@ -86,59 +86,59 @@ public:
 private:
   struct Side {
     std::vector<Operation> operations;
-    Digest digest;
+    ResultHash hash;
   };
   Side library_{operations::all<JournalServiceHelper>(), {}};
   Side reference_{operations::all<Reference>(), {}};
   int texts_ = 0;
 };
 
-Digests digestEverything() {
-  Digesting digesting;
+Hashes hashEverything() {
+  Hasher hasher;
   Random random(20070514);
   Input input;
   for (int round = 0; round < ROUNDS; ++round) {
     operations::fillRecords(input, random);
     input.text = operations::someText(random);
     operations::chooseElement(input, random);
-    digesting.writeEverything(input);
+    hasher.writeEverything(input);
 
     int const kind = round % 4;
-    for (auto const& message : digesting.messagesOf(kind, input))
+    for (auto const& message : hasher.messagesOf(kind, input))
       for (int text = 0; text < TEXTS_PER_MESSAGE; ++text) {
         auto const edits = text == 0 ? 0 : 1 + random.below(3);
         input.text = operations::damaged(message, edits, random);
         operations::chooseElement(input, random);
-        digesting.readEverything(input, kind);
+        hasher.readEverything(input, kind);
       }
   }
-  return digesting.digests();
+  return hasher.hashes();
 }
 
-TEST(Digest, OfAllOutputsIsTheSameEverywhere) {
-  auto const digests = digestEverything();
-  EXPECT_GE(digests.texts, LEAST_TEXTS);
-  EXPECT_EQ(digests.library, EXPECTED) << std::hex << "library: 0x" << digests.library;
-  EXPECT_EQ(digests.reference, EXPECTED) << std::hex << "reference: 0x" << digests.reference;
+TEST(ResultHash, OfAllOutputsIsTheSameEverywhere) {
+  auto const hashes = hashEverything();
+  EXPECT_GE(hashes.texts, LEAST_TEXTS);
+  EXPECT_EQ(hashes.library, EXPECTED) << std::hex << "library: 0x" << hashes.library;
+  EXPECT_EQ(hashes.reference, EXPECTED) << std::hex << "reference: 0x" << hashes.reference;
 }
 
-TEST(Digest, CoversEveryOperation) {
+TEST(ResultHash, CoversEveryOperation) {
   EXPECT_EQ(operations::all<JournalServiceHelper>().size(), operations::COUNT);
 }
 
 template <class Value>
-std::uint64_t digestOf(Value const& value) {
-  Digest digest;
-  digest.feed(value);
-  return digest.value();
+std::uint64_t hashOf(Value const& value) {
+  ResultHash hash;
+  hash.feed(value);
+  return hash.value();
 }
 
 // Known values of FNV-1a over the bytes that each should be fed as.
-TEST(Digest, IsFedFromTheLowestByteOn) {
-  EXPECT_EQ(Digest().value(), 0xcbf29ce484222325U);
-  EXPECT_EQ(digestOf(std::int32_t{'a'}), 0xac804b820e4fe984U); // 61 00 00 00
-  EXPECT_EQ(digestOf(std::int32_t{-2}), 0x7053767088d9a6c0U);  // fe ff ff ff
-  EXPECT_EQ(digestOf(std::string("a")), 0xd80d0daea7dbdd7fU);  // 01 00 00 00 61
+TEST(ResultHash, IsFedFromTheLowestByteOn) {
+  EXPECT_EQ(ResultHash().value(), 0xcbf29ce484222325U);
+  EXPECT_EQ(hashOf(std::int32_t{'a'}), 0xac804b820e4fe984U); // 61 00 00 00
+  EXPECT_EQ(hashOf(std::int32_t{-2}), 0x7053767088d9a6c0U);  // fe ff ff ff
+  EXPECT_EQ(hashOf(std::string("a")), 0xd80d0daea7dbdd7fU);  // 01 00 00 00 61
 }
 
 } // namespace

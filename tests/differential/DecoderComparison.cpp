@@ -2,10 +2,10 @@
 #include <cstring>
 #include <utility>
 
-#include "neighbourhood/Comparison.h"
-#include "neighbourhood/KindOperations.h"
-#include "neighbourhood/RecordFields.h"
-#include "neighbourhood/Shown.h"
+#include "differential/Comparison.h"
+#include "differential/KindOperations.h"
+#include "differential/RecordFields.h"
+#include "differential/Shown.h"
 #include "reference/Reference.h"
 
 namespace comparison {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "neighbourhood/Comparison.h"
-#include "neighbourhood/Messages.h"
-#include "neighbourhood/RecordFields.h"
+#include "differential/Comparison.h"
+#include "differential/Messages.h"
+#include "differential/RecordFields.h"
 
 namespace {
 
@@ -90,10 +90,10 @@ using Kinds =
 TYPED_TEST_SUITE(WrittenRecords, Kinds, );
 
 TYPED_TEST(WrittenRecords, WithEachFieldSetToEachValue) {
-  auto texts = neighbourhood::valueTokens();
+  auto texts = differential::valueTokens();
   texts.insert(texts.end(), {"", "<", "</Number>", "\"'", "</Item><Item>", std::string(300, '&')});
   for (auto const& original :
-       {neighbourhood::fullItem<TypeParam>(), neighbourhood::sparseItem<TypeParam>()})
+       {differential::fullItem<TypeParam>(), differential::sparseItem<TypeParam>()})
     for (std::size_t field = 0; field < fieldsIn<TypeParam>(); ++field)
       for (std::size_t value = 0; value < texts.size(); ++value) {
         auto item = original;
@@ -108,7 +108,7 @@ TYPED_TEST(WrittenRecords, WithEachFieldSetToEachValue) {
 TYPED_TEST(WrittenRecords, WithEachTwoFieldsSet) {
   std::vector<std::string> const texts = {"", "a", "&<>\"'", "Failure"};
   for (auto const& original :
-       {neighbourhood::fullItem<TypeParam>(), neighbourhood::sparseItem<TypeParam>()})
+       {differential::fullItem<TypeParam>(), differential::sparseItem<TypeParam>()})
     for (std::size_t second = 1; second < fieldsIn<TypeParam>(); ++second)
       for (std::size_t first = 0; first < second; ++first)
         for (std::size_t values = 0; values < 16; ++values) {
@@ -124,7 +124,7 @@ TYPED_TEST(WrittenRecords, WithEachTwoFieldsSet) {
 TYPED_TEST(WrittenRecords, WithSeveralCalls) {
   std::vector<std::string> const texts = {"", "<&>"};
   for (std::size_t calls = 0; calls < 40; ++calls) {
-    auto item = neighbourhood::fullItem<TypeParam>();
+    auto item = differential::fullItem<TypeParam>();
     item.callInfoList.resize(calls);
     if (calls > 1)
       item.callInfoList.back() = item.callInfoList.front();
@@ -135,7 +135,7 @@ TYPED_TEST(WrittenRecords, WithSeveralCalls) {
 }
 
 TEST(WrittenWords, OfOneAndTwoTokens) {
-  auto tokens = neighbourhood::alphabet(true);
+  auto tokens = differential::alphabet(true);
   tokens.push_back("");
   for (auto const& first : tokens)
     for (auto const& second : tokens)
@@ -151,7 +151,7 @@ TEST(WrittenWords, AtTheBoundariesOfNumbers) {
 }
 
 TEST(WrittenWords, AsIdsOfRequests) {
-  auto tokens = neighbourhood::valueTokens();
+  auto tokens = differential::valueTokens();
   tokens.insert(tokens.end(), {"", "<EntryId>", "</EntryId>", std::string(500, 'x')});
   std::set<std::string> ids;
   for (auto const& token : tokens) {

@@ -1,4 +1,4 @@
 // The library's operations.
-#include "digest/OperationTable.h"
+#include "operations/OperationTable.h"
 
 template std::vector<operations::Operation> operations::all<JournalServiceHelper>();

@@ -1,12 +1,12 @@
 // Hostile inputs: texts and records of any size, each of one shape.
-#ifndef TESTS_GROWTH_SHAPES_H
-#define TESTS_GROWTH_SHAPES_H
+#ifndef TESTS_COMPLEXITY_SHAPES_H
+#define TESTS_COMPLEXITY_SHAPES_H
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
-#include "digest/Operations.h"
+#include "operations/Operations.h"
 
 namespace shapes {
 

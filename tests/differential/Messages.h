@@ -1,13 +1,13 @@
-// The messages whose neighbourhood is tested, and the tokens that are put into them.
-#ifndef TESTS_NEIGHBOURHOOD_MESSAGES_H
-#define TESTS_NEIGHBOURHOOD_MESSAGES_H
+// The messages around which the texts are made, and the tokens that are put into them.
+#ifndef TESTS_DIFFERENTIAL_MESSAGES_H
+#define TESTS_DIFFERENTIAL_MESSAGES_H
 
 #include <string>
 #include <vector>
 
-#include "neighbourhood/Comparison.h"
+#include "differential/Comparison.h"
 
-namespace neighbourhood {
+namespace differential {
 
 struct Message {
   comparison::Kind kind; // whose decoders are run in full
@@ -33,6 +33,6 @@ Item fullItem();
 template <class Item>
 Item sparseItem();
 
-} // namespace neighbourhood
+} // namespace differential
 
 #endif

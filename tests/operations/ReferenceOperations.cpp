@@ -1,5 +1,5 @@
 // The operations of the plain implementation.
-#include "digest/OperationTable.h"
+#include "operations/OperationTable.h"
 #include "reference/Reference.h"
 
 template std::vector<operations::Operation> operations::all<Reference>();

@@ -1,7 +1,7 @@
 // Every operation in one table, to be run on one kind of input and to write into one kind of
 // output, whatever its parameters are.
-#ifndef TESTS_DIGEST_OPERATIONS_H
-#define TESTS_DIGEST_OPERATIONS_H
+#ifndef TESTS_OPERATIONS_OPERATIONS_H
+#define TESTS_OPERATIONS_OPERATIONS_H
 
 #include <cstdint>
 #include <deque>
@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "JournalServiceHelper.h"
-#include "digest/Digest.h"
+#include "resulthash/ResultHash.h"
 
 namespace operations {
 
@@ -86,7 +86,7 @@ struct Operation {
   bool writesRecords; // what it does depends on the input's records
   bool readsIds;      // what it does depends on the input's ids
   std::function<void(Input const&, Outputs&)> run;
-  std::function<void(Outputs const&, Digest&)> feed; // digests what it wrote
+  std::function<void(Outputs const&, ResultHash&)> feed; // hashes what it wrote
 };
 
 /// The operations of a class that has them all, in the order of the header but for the kinds:

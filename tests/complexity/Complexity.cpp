@@ -1,8 +1,8 @@
 // Runs operations on hostile inputs, for valgrind to count or to check.
 //
-//   growth OPERATION SHAPE SIZE    one operation once, on one input
-//   growth all SIZE...             every operation on every shape in every size
-//   growth list                    the names of the operations and shapes
+//   journal_complexity OPERATION SHAPE SIZE    one operation once, on one input
+//   journal_complexity all SIZE...             every operation on every shape in every size
+//   journal_complexity list                    the names of the operations and shapes
 //
 // Under callgrind with --collect-atstart=no only the operations are counted, not what builds their
 // inputs, and each run is dumped by itself as "OPERATION SHAPE SIZE".
@@ -14,8 +14,8 @@
 
 #include <valgrind/callgrind.h>
 
-#include "digest/Operations.h"
-#include "growth/Shapes.h"
+#include "operations/Operations.h"
+#include "complexity/Shapes.h"
 
 namespace {
 
@@ -54,7 +54,7 @@ int runOne(std::string const& operationName, std::string const& shapeName, std::
         countedRun(operation, shapes::inputOf(shape, size), label);
         return 0;
       }
-  std::fputs("growth: no such operation or shape\n", stderr);
+  std::fputs("complexity: no such operation or shape\n", stderr);
   return 2;
 }
 
@@ -97,6 +97,6 @@ int main(int count, char** arguments) {
   }
   if (words.size() == 3)
     return runOne(words[0], words[1], sizeOf(arguments[3]));
-  std::fputs("usage: growth OPERATION SHAPE SIZE | growth all SIZE... | growth list\n", stderr);
+  std::fputs("usage: journal_complexity OPERATION SHAPE SIZE | all SIZE... | list\n", stderr);
   return 2;
 }

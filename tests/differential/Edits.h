@@ -1,14 +1,14 @@
 // The texts around a text: its tokens with one of them inserted, deleted, replaced, exchanged with
 // another or repeated. The edits of a text are numbered, so that they can be walked in any order.
-#ifndef TESTS_NEIGHBOURHOOD_EDITS_H
-#define TESTS_NEIGHBOURHOOD_EDITS_H
+#ifndef TESTS_DIFFERENTIAL_EDITS_H
+#define TESTS_DIFFERENTIAL_EDITS_H
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace neighbourhood {
+namespace differential {
 
 using Tokens = std::vector<std::string_view>;
 
@@ -44,6 +44,6 @@ std::vector<std::string> tokensOf(std::string_view text);
 /// The same with each element that holds no other as one token.
 std::vector<std::string> elementsOf(std::string_view text);
 
-} // namespace neighbourhood
+} // namespace differential
 
 #endif
