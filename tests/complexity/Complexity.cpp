@@ -14,8 +14,8 @@
 
 #include <valgrind/callgrind.h>
 
-#include "operations/Operations.h"
 #include "complexity/Shapes.h"
+#include "operations/Operations.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 
 #include "ClientUtils.h"
 #include "JournalServiceHelper.h"
+#include "differential/KindOperations.h"
 #include "memory/Allocations.h"
 #include "memory/RealisticLog.h"
-#include "differential/KindOperations.h"
 
 namespace {
 

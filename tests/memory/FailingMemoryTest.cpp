@@ -11,18 +11,18 @@
 
 #include <gtest/gtest.h>
 
-#include "operations/Operations.h"
 #include "memory/Allocations.h"
 #include "memory/Scenes.h"
+#include "operations/Operations.h"
 
 namespace {
 
 using allocations::Failing;
-using operations::ResultHash;
 using operations::Input;
 using operations::NO_KIND;
 using operations::Operation;
 using operations::Outputs;
+using operations::ResultHash;
 using scenes::Scene;
 
 // Those that answer without a text of their own, or with one that a string holds in itself.

@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "operations/Operations.h"
 #include "differential/RecordFields.h"
+#include "operations/Operations.h"
 
 namespace operations {
 

@@ -12,11 +12,11 @@
 
 namespace {
 
-using operations::ResultHash;
 using operations::Input;
 using operations::Operation;
 using operations::Outputs;
 using operations::Random;
+using operations::ResultHash;
 
 // A change of this value is a change of behaviour: the reference has to have changed with the
 // library, and both on purpose.

@@ -16,11 +16,11 @@
 
 namespace {
 
-using operations::ResultHash;
 using operations::Input;
 using operations::Operation;
 using operations::Outputs;
 using operations::Random;
+using operations::ResultHash;
 using Library = JournalServiceHelper;
 
 constexpr std::size_t THREADS = 8;
