@@ -1,8 +1,7 @@
 // The clients' requests to the journal service.
 #include "JournalServiceHelper.h"
 #include "vocabulary/Tags.h"
-#include "vocabulary/Words.h"
-#include "xml/Building.h"
+#include "xml/Envelope.h"
 
 using namespace journal;
 
@@ -14,7 +13,7 @@ std::string request(std::string_view method) {
   return enveloped({methodElement.begin(), method, methodElement.close()});
 }
 
-// A request about one entry. An empty id leaves a request about no entry.
+// A request about one entry; about none when the id is empty.
 std::string request(std::string_view method, std::string const& entryId) {
   constexpr auto id = element<word::ENTRYID>;
   if (entryId.empty())

@@ -1,8 +1,7 @@
 // The clients' requests to the settings and data store.
 #include "JournalServiceHelper.h"
 #include "vocabulary/Tags.h"
-#include "vocabulary/Words.h"
-#include "xml/Building.h"
+#include "xml/Envelope.h"
 
 using namespace journal;
 
@@ -15,8 +14,8 @@ std::string request(std::string_view kind, std::string_view schemaName) {
 
 } // namespace
 
-// The schema alone tells the store what is read: an empty CallLogEnabled element would say so too,
-// but empty elements are not written. The schema is the settings', not DAS_CALLLOGENABLEDSTATE.
+// The schema alone tells the store what to read: an element without a value is not written. It is
+// the settings' schema, not DAS_CALLLOGENABLEDSTATE.
 std::string JournalServiceHelper::readEnabledState() {
   return request(word::READREQUEST, word::SETTINGS_SCHEMA);
 }

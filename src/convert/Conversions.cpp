@@ -1,4 +1,4 @@
-// The public conversions of enumerations and response words.
+// The public conversions of enumerations.
 #include "JournalServiceHelper.h"
 #include "convert/EnumTexts.h"
 
@@ -44,12 +44,4 @@ std::string JournalServiceHelper::convertTargetLog(CallLogEntryEvent::_LogTarget
 
 CallLogEntryEvent::_LogTarget JournalServiceHelper::convertTargetLog(std::string const& text) {
   return static_cast<CallLogEntryEvent::_LogTarget>(targetLogs.memberOf(text));
-}
-
-std::string JournalServiceHelper::respBool(bool success) {
-  return std::string(success ? word::SUCCESS : word::FAILURE);
-}
-
-bool JournalServiceHelper::isNonFailureResponse(std::string const& message) {
-  return message.find(word::FAILURE) == std::string::npos;
 }

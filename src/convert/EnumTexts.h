@@ -1,4 +1,5 @@
-// The texts of the four enumerations and of flags, and the two ways between a member and its text.
+// The texts of the four enumerations and of flags, and the conversions between a member and its
+// text.
 #ifndef JOURNAL_CONVERT_ENUMTEXTS_H
 #define JOURNAL_CONVERT_ENUMTEXTS_H
 
@@ -12,7 +13,7 @@
 
 namespace journal {
 
-/// A member's text, of one size in memory, so that it can be copied and compared as a whole.
+/// A member's text, padded to a fixed size so that it can be copied and compared as a whole.
 class MemberText {
 public:
   constexpr MemberText(std::string_view text) : size_(static_cast<std::uint8_t>(text.size())) {
@@ -23,23 +24,26 @@ public:
   constexpr std::size_t size() const { return size_; }
   constexpr operator std::string_view() const { return {chars_, size_}; }
 
+  /// The whole object, text and padding, as bytes.
+  char const* bytes() const { return reinterpret_cast<char const*>(this); }
+
 private:
   char chars_[15] = {};
   std::uint8_t size_;
 };
 
-/// An enumeration as the 32-bit values that stand for its members: 0, 1, ... without a gap.
+/// An enumeration: its members' texts by their 32-bit values, 0, 1, ... without a gap.
 class Enumeration {
 public:
   using Value = std::int32_t;
-  static constexpr std::size_t most = 7; // members
+  static constexpr std::size_t max = 7; // members
 
   /// @param texts in the order of the values
-  /// @param fallback the member that stands for every other value and text
+  /// @param fallback the member that every other value and text gives
   template <std::size_t size>
   constexpr Enumeration(MemberText const (&texts)[size], Value fallback)
       : texts_(texts), size_(size), fallback_(static_cast<std::uint8_t>(fallback)) {
-    static_assert(size <= most);
+    static_assert(size <= max);
     for (std::uint8_t value = 0; value < size; ++value)
       members_[slotOf(texts[value])] = value;
   }
@@ -52,7 +56,7 @@ public:
     return texts_[index < size_ ? index : fallback_];
   }
 
-  /// The one member whose text this can be; whether it is, only its text can say.
+  /// The only member whose text this can be. The caller compares the texts.
   constexpr Value candidateFor(std::string_view text) const {
     return text.size() < 2 ? fallback_ : members_[slotOf(text)];
   }
@@ -63,12 +67,21 @@ public:
     return std::string_view(textOf(candidate)) == text ? candidate : fallback_;
   }
 
-  /// Whether every text has a slot of its own, without which it would not be found.
+  /// Whether every member is found by its text: no two texts share a slot.
   constexpr bool isSound() const {
     for (std::uint8_t value = 0; value < size_; ++value)
       if (memberOf(texts_[value]) != value)
         return false;
     return true;
+  }
+
+  /// The size of the shortest member's text.
+  constexpr std::size_t shortest() const {
+    std::size_t size = texts_[0].size();
+    for (std::uint8_t value = 1; value < size_; ++value)
+      if (texts_[value].size() < size)
+        size = texts_[value].size();
+    return size;
   }
 
 private:

@@ -1,26 +1,45 @@
-// Writes records: every field of a record in the order of its rows.
+// Writes records: every field of a record in the order of its descriptors.
+//
+// One encoder for all kinds; a thin layer of templates over it keeps callers type-safe.
 #ifndef JOURNAL_RECORDS_ENCODER_H
 #define JOURNAL_RECORDS_ENCODER_H
 
 #include <deque>
 #include <string>
 
-#include "CallLogItems.h"
+#include "records/Kinds.h"
 
 namespace journal {
 
-/// Appends an entry's UniqueId and, unless it is asked for alone, the entry's other elements and
-/// its LogList.
-template <class Item>
-void appendItemBody(Item const& item, std::string& out, bool uniqueIdOnly);
+// The encoder without types. The pointers are to records of the kind; a log is a std::deque of
+// entries.
+namespace erased {
+void appendEntryBody(LogKind kind, void const* entry, std::string& out);
+void appendUniqueId(std::string const& uniqueId, std::string& out);
+void appendCalls(LogKind kind, void const* entry, std::string& out);
+void appendLog(LogKind kind, void const* log, std::string& out);
+} // namespace erased
 
-/// Appends an entry's LogList, one Item per detail record.
-template <class Item>
-void appendInfoList(Item const& item, std::string& out);
+/// Appends an entry's elements and its LogList, or its UniqueId alone.
+template <class Entry>
+void appendEntryBody(Entry const& entry, std::string& out, bool uniqueIdOnly) {
+  if (uniqueIdOnly)
+    erased::appendUniqueId(entry.uniqueId, out);
+  else
+    erased::appendEntryBody(kindOf<Entry>, &entry, out);
+}
 
-/// Appends a log: one Entry per item.
-template <class Item>
-void appendEntries(std::deque<Item> const& items, std::string& out);
+/// Appends an entry's LogList, one Item per call.
+template <class Entry>
+void appendCalls(Entry const& entry, std::string& out) {
+  erased::appendCalls(kindOf<Entry>, &entry, out);
+}
+
+/// Appends a log, one Entry per entry.
+template <class Entry>
+void appendLog(std::deque<Entry> const& log, std::string& out) {
+  erased::appendLog(kindOf<Entry>, &log, out);
+}
 
 } // namespace journal
 

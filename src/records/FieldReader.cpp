@@ -1,8 +1,8 @@
-// Turns the raw values of elements into the values of fields.
+// Converts the raw values of elements into the values of members.
 #include "records/FieldReader.h"
 
 #include "ClientUtils.h"
-#include "xml/Remake.h"
+#include "bytes/ReplaceInPlace.h"
 
 namespace journal {
 
@@ -11,21 +11,21 @@ std::string const& FieldReader::argument(std::string_view raw) {
   return argument.assign(raw.data(), raw.size());
 }
 
-Enumeration::Value FieldReader::askForMember(std::string_view raw, Enumeration const& enumeration) {
+Enumeration::Value FieldReader::lookUpMember(std::string_view raw, Enumeration const& enumeration) {
   return enumeration.memberOf(ClientUtils::unescapeXMLString(argument(raw)));
 }
 
-// The way of most texts; all that calls for more registers than it needs is left to the other.
+// The path of most values. What would need more registers is left to replaceUnprepared.
 void FieldReader::replace(std::string& text, std::string_view raw) {
   if (raw.size() >= arguments_.size() || arguments_[raw.size()].size() != raw.size())
     return replaceUnprepared(text, raw);
   auto& argument = arguments_[raw.size()];
   copyBytes(argument.data(), raw.data(), raw.size());
-  remake(text, ClientUtils::unescapeXMLString, argument);
+  replaceInPlace(text, ClientUtils::unescapeXMLString, argument);
 }
 
 void FieldReader::replaceUnprepared(std::string& text, std::string_view raw) {
-  remake(text, ClientUtils::unescapeXMLString, argument(raw));
+  replaceInPlace(text, ClientUtils::unescapeXMLString, argument(raw));
 }
 
 } // namespace journal

@@ -2,184 +2,245 @@
 #ifndef JOURNAL_RECORDS_KINDS_H
 #define JOURNAL_RECORDS_KINDS_H
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
 #include "CallLogItems.h"
-#include "records/Fields.h"
+#include "bytes/Bytes.h"
+#include "records/FieldDescriptor.h"
 #include "vocabulary/Words.h"
 
 namespace journal {
 
-// Entries hold a std::list, which makes offsetof of their members conditionally supported:
-// compilers may refuse it, but none that meets a class without virtual bases does.
+/// The kinds as values, for code that does not know their record types.
+enum class LogKind : std::uint8_t { missed, dialled, received, forwarded };
+
+// Entries hold a std::list, which makes offsetof of their members conditionally supported. Every
+// compiler that we support accepts it for classes without virtual bases.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 
-// The place and type of a record's member; a macro, as offsetof is one.
-#define MEMBER(Record, name) (Member{offsetof(Record, name), contentOf<decltype(Record::name)>})
+// The descriptor of the element NAME that carries a member of the record; a macro, as offsetof is.
+#define FIELD(Record, NAME, member)                                                                \
+  (FieldDescriptor(element<word::NAME>, offsetof(Record, member),                                  \
+                   contentOf<decltype(Record::member)>))
+
+/// The fields with two neighbours exchanged.
+template <std::size_t size, std::size_t... index>
+constexpr std::array<FieldDescriptor, size>
+exchanged(FieldDescriptor const (&fields)[size], std::size_t first, std::index_sequence<index...>) {
+  return {fields[index == first ? first + 1 : index == first + 1 ? first : index]...};
+}
+template <std::size_t size>
+constexpr auto exchanged(FieldDescriptor const (&fields)[size], std::size_t first) {
+  return exchanged(fields, first, std::make_index_sequence<size>());
+}
 
 /// A kind of call log, named by its entry record:
-///   Info         the detail record
+///   kind         the same as a value
+///   Call         the record of one call
 ///   method       the method tag of the list response
 ///   update       the method tag of the change notification
-///   entry        the entry's rows in front of its LogList, UniqueId first
-///   detail       the detail record's rows, in the order in which they are written
-///   detailRead   the same rows in the order in which they are read
-template <class Item>
+///   entry        the entry's fields before its LogList, UniqueId first
+///   call         a call's fields, in the order in which they are written
+///   callRead     the same in the order in which they are read
+template <class Entry>
 struct Kind;
 
 template <>
 struct Kind<MissedCallItem> {
-  using Item = MissedCallItem;
-  using Info = MissedCallItem::MissedCallInfo;
+  static constexpr auto kind = LogKind::missed;
+  using Entry = MissedCallItem;
+  using Call = MissedCallItem::MissedCallInfo;
   static constexpr auto& method = word::GETMISSEDCALLLIST_XML;
   static constexpr auto& update = word::MISSEDCALLSUPDATE_XML;
 
-  static constexpr Field entry[] = {
-      field<word::UNIQUEID>(MEMBER(Item, uniqueId)),
-      field<word::ENTRYID>(MEMBER(Item, entryId)),
-      field<word::SURNAME>(MEMBER(Item, surname), Writing::escaped),
-      field<word::FIRSTNAME>(MEMBER(Item, firstname), Writing::escaped),
-      field<word::PICTURE>(MEMBER(Item, picture)),
-      field<word::VIEWED>(MEMBER(Item, viewed)),
+  static constexpr FieldDescriptor entry[] = {
+      FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
+      FIELD(Entry, SURNAME, surname).escaped(), FIELD(Entry, FIRSTNAME, firstname).escaped(),
+      FIELD(Entry, PICTURE, picture),           FIELD(Entry, VIEWED, viewed),
   };
-  static constexpr Field detail[] = {
-      field<word::NUMBER>(MEMBER(Info, number)),
-      field<word::NUMBERTYPE>(MEMBER(Info, numberType)),
-      field<word::CONNECTEDNUMBER>(MEMBER(Info, connectedNumber)),
-      mostly<word::CONNECTEDNUMBERTYPE>(MEMBER(Info, connectedNumberType), NumberType::NO_ICON),
-      field<word::CONNECTEDSURNAME>(MEMBER(Info, connectedSurname)),
-      field<word::CONNECTEDFIRSTNAME>(MEMBER(Info, connectedFirstName)),
-      field<word::TIMEDATE>(MEMBER(Info, timeDate)),
-      field<word::TARGETLOG>(MEMBER(Info, targetLog)),
-      mostly<word::NUMBERPRESENTATION>(MEMBER(Info, numberPresentation),
-                                       CallLogEntryEvent::ALLOWED),
-      mostly<word::NAMEPRESENTATION>(MEMBER(Info, namePresentation), CallLogEntryEvent::ALLOWED),
-      mostly<word::DEFLECTNUMBERPRESENTATION>(MEMBER(Info, deflectNumberPresentation),
-                                              CallLogEntryEvent::NOT_AVAILABLE),
-      missingAlong<word::DEFLECTNUMBER>(MEMBER(Info, deflectNumber)),
-      along<word::DEFLECTNUMBERTYPE>(MEMBER(Info, deflectNumberType), NumberType::NO_ICON),
-      along<word::DEFLECTNAMEPRESENTATION>(MEMBER(Info, deflectNamePresentation),
-                                           CallLogEntryEvent::NOT_AVAILABLE),
-      field<word::DEFLECTNAME>(MEMBER(Info, deflectName)),
-      mostly<word::TIMEFORMAT>(MEMBER(Info, timeFormat), CallLogEntryEvent::FORM_24),
+  static constexpr FieldDescriptor call[] = {
+      FIELD(Call, NUMBER, number),
+      FIELD(Call, NUMBERTYPE, numberType),
+      FIELD(Call, CONNECTEDNUMBER, connectedNumber),
+      FIELD(Call, CONNECTEDNUMBERTYPE, connectedNumberType).expected(NumberType::NO_ICON),
+      FIELD(Call, CONNECTEDSURNAME, connectedSurname),
+      FIELD(Call, CONNECTEDFIRSTNAME, connectedFirstName),
+      FIELD(Call, TIMEDATE, timeDate),
+      FIELD(Call, TARGETLOG, targetLog),
+      FIELD(Call, NUMBERPRESENTATION, numberPresentation).expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, NAMEPRESENTATION, namePresentation).expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, DEFLECTNUMBERPRESENTATION, deflectNumberPresentation)
+          .expected(CallLogEntryEvent::NOT_AVAILABLE),
+      FIELD(Call, DEFLECTNUMBER, deflectNumber).joined(),
+      FIELD(Call, DEFLECTNUMBERTYPE, deflectNumberType).expected(NumberType::NO_ICON).joined(),
+      FIELD(Call, DEFLECTNAMEPRESENTATION, deflectNamePresentation)
+          .expected(CallLogEntryEvent::NOT_AVAILABLE)
+          .joined(),
+      FIELD(Call, DEFLECTNAME, deflectName),
+      FIELD(Call, TIMEFORMAT, timeFormat).expected(CallLogEntryEvent::FORM_24),
   };
-  static constexpr auto& detailRead = detail;
+  static constexpr auto& callRead = call;
 };
 
 template <>
 struct Kind<DialledCallItem> {
-  using Item = DialledCallItem;
-  using Info = DialledCallItem::DialledCallInfo;
+  static constexpr auto kind = LogKind::dialled;
+  using Entry = DialledCallItem;
+  using Call = DialledCallItem::DialledCallInfo;
   static constexpr auto& method = word::GETDIALLEDCALLLIST_XML;
   static constexpr auto& update = word::DIALLEDCALLSUPDATE_XML;
 
-  static constexpr Field entry[] = {
-      field<word::UNIQUEID>(MEMBER(Item, uniqueId)),
-      field<word::ENTRYID>(MEMBER(Item, entryId)),
-      field<word::SURNAME>(MEMBER(Item, surname), Writing::escaped),
-      field<word::FIRSTNAME>(MEMBER(Item, firstname), Writing::escaped),
-      field<word::PICTURE>(MEMBER(Item, picture)),
-      field<word::JSGROUPBY>(MEMBER(Item, jsGroupBy)),
+  static constexpr FieldDescriptor entry[] = {
+      FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
+      FIELD(Entry, SURNAME, surname).escaped(), FIELD(Entry, FIRSTNAME, firstname).escaped(),
+      FIELD(Entry, PICTURE, picture),           FIELD(Entry, JSGROUPBY, jsGroupBy),
   };
-  // The reader asks for the priority in front of the connected number that it goes with, while the
-  // writer puts it behind. Both orders are settled: with a connected number present, the reader's
-  // cursor stops there, which decides what is read from elements out of order.
-  static constexpr Field detail[] = {
-      field<word::NUMBER>(MEMBER(Info, number)),
-      field<word::NUMBERTYPE>(MEMBER(Info, numberType)),
-      field<word::RESOLVEDNUMBER>(MEMBER(Info, resolvedNumber)),
-      field<word::CONNECTEDNUMBER>(MEMBER(Info, connectedNumber)),
-      mostly<word::CONNECTEDNUMBERPRIORITY>(MEMBER(Info, connectedNumberPriority), false),
-      along<word::CONNECTEDNUMBERTYPE>(MEMBER(Info, connectedNumberType), NumberType::NO_ICON),
-      field<word::CONNECTEDSURNAME>(MEMBER(Info, connectedSurname)),
-      field<word::CONNECTEDFIRSTNAME>(MEMBER(Info, connectedFirstName)),
-      field<word::TIMEDATE>(MEMBER(Info, timeDate)),
-      field<word::DURATION>(MEMBER(Info, duration)),
-      field<word::TARGETLOG>(MEMBER(Info, targetLog)),
-      mostly<word::NUMBERPRESENTATION>(MEMBER(Info, numberPresentation),
-                                       CallLogEntryEvent::ALLOWED),
-      mostly<word::NAMEPRESENTATION>(MEMBER(Info, namePresentation), CallLogEntryEvent::ALLOWED,
-                                     Reading::unclosed),
-      mostly<word::TIMEFORMAT>(MEMBER(Info, timeFormat), CallLogEntryEvent::FORM_24),
+  static constexpr FieldDescriptor call[] = {
+      FIELD(Call, NUMBER, number),
+      FIELD(Call, NUMBERTYPE, numberType),
+      FIELD(Call, RESOLVEDNUMBER, resolvedNumber),
+      FIELD(Call, CONNECTEDNUMBER, connectedNumber),
+      FIELD(Call, CONNECTEDNUMBERPRIORITY, connectedNumberPriority).expected(false),
+      FIELD(Call, CONNECTEDNUMBERTYPE, connectedNumberType).expected(NumberType::NO_ICON).joined(),
+      FIELD(Call, CONNECTEDSURNAME, connectedSurname),
+      FIELD(Call, CONNECTEDFIRSTNAME, connectedFirstName),
+      FIELD(Call, TIMEDATE, timeDate),
+      FIELD(Call, DURATION, duration),
+      FIELD(Call, TARGETLOG, targetLog),
+      FIELD(Call, NUMBERPRESENTATION, numberPresentation).expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, NAMEPRESENTATION, namePresentation)
+          .unclosed()
+          .expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, TIMEFORMAT, timeFormat).expected(CallLogEntryEvent::FORM_24),
   };
-  static constexpr auto detailRead = swapped(detail, 3, 4);
+  // The reader asks for the priority before the connected number that it belongs to; the writer
+  // puts it behind. Both orders are settled: where a connected number is present, the reader's
+  // cursor stops there, and that decides what is read from elements that are out of order.
+  static constexpr auto callRead = exchanged(call, 3);
 };
 
 template <>
 struct Kind<ReceivedCallItem> {
-  using Item = ReceivedCallItem;
-  using Info = ReceivedCallItem::ReceivedCallInfo;
+  static constexpr auto kind = LogKind::received;
+  using Entry = ReceivedCallItem;
+  using Call = ReceivedCallItem::ReceivedCallInfo;
   static constexpr auto& method = word::GETRECEIVEDCALLLIST_XML;
   static constexpr auto& update = word::RECEIVEDCALLSUPDATE_XML;
 
-  static constexpr Field entry[] = {
-      field<word::UNIQUEID>(MEMBER(Item, uniqueId)),
-      field<word::ENTRYID>(MEMBER(Item, entryId)),
-      field<word::SURNAME>(MEMBER(Item, surname), Writing::escaped),
-      field<word::FIRSTNAME>(MEMBER(Item, firstname), Writing::escaped),
-      field<word::PICTURE>(MEMBER(Item, picture)),
+  static constexpr FieldDescriptor entry[] = {
+      FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
+      FIELD(Entry, SURNAME, surname).escaped(), FIELD(Entry, FIRSTNAME, firstname).escaped(),
+      FIELD(Entry, PICTURE, picture),
   };
-  // The connected names are written, but a reader passes over them and leaves the fields to their
-  // holder. The loss is settled behaviour of this log.
-  static constexpr Field detail[] = {
-      field<word::NUMBER>(MEMBER(Info, number)),
-      field<word::NUMBERTYPE>(MEMBER(Info, numberType)),
-      field<word::CONNECTEDNUMBER>(MEMBER(Info, connectedNumber)),
-      mostly<word::CONNECTEDNUMBERTYPE>(MEMBER(Info, connectedNumberType), NumberType::NO_ICON),
-      field<word::CONNECTEDSURNAME>(MEMBER(Info, connectedSurname), Writing::raw,
-                                    Reading::discarded),
-      field<word::CONNECTEDFIRSTNAME>(MEMBER(Info, connectedFirstName), Writing::raw,
-                                      Reading::discarded),
-      field<word::TIMEDATE>(MEMBER(Info, timeDate)),
-      field<word::DURATION>(MEMBER(Info, duration)),
-      field<word::TARGETLOG>(MEMBER(Info, targetLog)),
-      mostly<word::NUMBERPRESENTATION>(MEMBER(Info, numberPresentation),
-                                       CallLogEntryEvent::ALLOWED),
-      mostly<word::NAMEPRESENTATION>(MEMBER(Info, namePresentation), CallLogEntryEvent::ALLOWED),
-      mostly<word::DEFLECTNUMBERPRESENTATION>(MEMBER(Info, deflectNumberPresentation),
-                                              CallLogEntryEvent::NOT_AVAILABLE),
-      missingAlong<word::DEFLECTNUMBER>(MEMBER(Info, deflectNumber)),
-      along<word::DEFLECTNUMBERTYPE>(MEMBER(Info, deflectNumberType), NumberType::NO_ICON),
-      along<word::DEFLECTNAMEPRESENTATION>(MEMBER(Info, deflectNamePresentation),
-                                           CallLogEntryEvent::NOT_AVAILABLE),
-      field<word::DEFLECTNAME>(MEMBER(Info, deflectName)),
-      mostly<word::TIMEFORMAT>(MEMBER(Info, timeFormat), CallLogEntryEvent::FORM_24),
+  // The connected names are written, but a reader discards them. The loss is settled behaviour of
+  // this log.
+  static constexpr FieldDescriptor call[] = {
+      FIELD(Call, NUMBER, number),
+      FIELD(Call, NUMBERTYPE, numberType),
+      FIELD(Call, CONNECTEDNUMBER, connectedNumber),
+      FIELD(Call, CONNECTEDNUMBERTYPE, connectedNumberType).expected(NumberType::NO_ICON),
+      FIELD(Call, CONNECTEDSURNAME, connectedSurname).discarded(),
+      FIELD(Call, CONNECTEDFIRSTNAME, connectedFirstName).discarded(),
+      FIELD(Call, TIMEDATE, timeDate),
+      FIELD(Call, DURATION, duration),
+      FIELD(Call, TARGETLOG, targetLog),
+      FIELD(Call, NUMBERPRESENTATION, numberPresentation).expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, NAMEPRESENTATION, namePresentation).expected(CallLogEntryEvent::ALLOWED),
+      FIELD(Call, DEFLECTNUMBERPRESENTATION, deflectNumberPresentation)
+          .expected(CallLogEntryEvent::NOT_AVAILABLE),
+      FIELD(Call, DEFLECTNUMBER, deflectNumber).joined(),
+      FIELD(Call, DEFLECTNUMBERTYPE, deflectNumberType).expected(NumberType::NO_ICON).joined(),
+      FIELD(Call, DEFLECTNAMEPRESENTATION, deflectNamePresentation)
+          .expected(CallLogEntryEvent::NOT_AVAILABLE)
+          .joined(),
+      FIELD(Call, DEFLECTNAME, deflectName),
+      FIELD(Call, TIMEFORMAT, timeFormat).expected(CallLogEntryEvent::FORM_24),
   };
-  static constexpr auto& detailRead = detail;
+  static constexpr auto& callRead = call;
 };
 
 template <>
 struct Kind<ForwardedCallItem> {
-  using Item = ForwardedCallItem;
-  using Info = ForwardedCallItem::ForwardedCallInfo;
+  static constexpr auto kind = LogKind::forwarded;
+  using Entry = ForwardedCallItem;
+  using Call = ForwardedCallItem::ForwardedCallInfo;
   static constexpr auto& method = word::GETFORWARDEDCALLLIST_XML;
   static constexpr auto& update = word::FORWARDEDCALLSUPDATE_XML;
 
-  static constexpr Field entry[] = {
-      field<word::UNIQUEID>(MEMBER(Item, uniqueId)),
-      field<word::ENTRYID>(MEMBER(Item, entryId)),
-      field<word::SURNAME>(MEMBER(Item, surname), Writing::escaped),
-      field<word::FIRSTNAME>(MEMBER(Item, firstname), Writing::escaped),
-      field<word::PICTURE>(MEMBER(Item, picture)),
+  static constexpr FieldDescriptor entry[] = {
+      FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
+      FIELD(Entry, SURNAME, surname).escaped(), FIELD(Entry, FIRSTNAME, firstname).escaped(),
+      FIELD(Entry, PICTURE, picture),
   };
-  // The only kind that escapes the connected names; like the received kind it passes over them when
+  // The only kind that escapes the connected names. Like the received kind, it discards them when
   // it reads.
-  static constexpr Field detail[] = {
-      field<word::NUMBER>(MEMBER(Info, number)),
-      field<word::NUMBERTYPE>(MEMBER(Info, numberType)),
-      field<word::CONNECTEDNUMBER>(MEMBER(Info, connectedNumber)),
-      mostly<word::CONNECTEDNUMBERTYPE>(MEMBER(Info, connectedNumberType), NumberType::NO_ICON),
-      field<word::CONNECTEDSURNAME>(MEMBER(Info, connectedSurname), Writing::escaped,
-                                    Reading::discarded),
-      field<word::CONNECTEDFIRSTNAME>(MEMBER(Info, connectedFirstName), Writing::escaped,
-                                      Reading::discarded),
-      field<word::TIMEDATE>(MEMBER(Info, timeDate)),
-      field<word::DURATION>(MEMBER(Info, duration)),
+  static constexpr FieldDescriptor call[] = {
+      FIELD(Call, NUMBER, number),
+      FIELD(Call, NUMBERTYPE, numberType),
+      FIELD(Call, CONNECTEDNUMBER, connectedNumber),
+      FIELD(Call, CONNECTEDNUMBERTYPE, connectedNumberType).expected(NumberType::NO_ICON),
+      FIELD(Call, CONNECTEDSURNAME, connectedSurname).escaped().discarded(),
+      FIELD(Call, CONNECTEDFIRSTNAME, connectedFirstName).escaped().discarded(),
+      FIELD(Call, TIMEDATE, timeDate),
+      FIELD(Call, DURATION, duration),
   };
-  static constexpr auto& detailRead = detail;
+  static constexpr auto& callRead = call;
 };
 
-#undef MEMBER
+#undef FIELD
 #pragma GCC diagnostic pop
+
+namespace detail {
+
+template <class Fields>
+constexpr bool namesAreUnique(Fields const& fields) {
+  for (auto const& field : fields)
+    for (auto const* other = &fields[0]; other != &field; ++other)
+      if (other->begin() == field.begin())
+        return false;
+  return true;
+}
+
+/// The value of an enumeration is compared with a member's text of the same size by loading
+/// frontSize bytes. The tag behind the value has to make up for what the value lacks.
+template <class Fields>
+constexpr bool frontsCanBeLoaded(Fields const& fields) {
+  for (auto const& field : fields)
+    if (field.content() != Content::text && field.content() != Content::flag &&
+        enumerationOf(field.content()).shortest() + field.searchedClose().size() < frontSize)
+      return false;
+  return true;
+}
+
+template <class Fields>
+constexpr bool areSound(Fields const& fields) {
+  return namesAreUnique(fields) && frontsCanBeLoaded(fields);
+}
+
+template <class... Entry>
+constexpr bool kindsAreSound() {
+  return (areSound(Kind<Entry>::entry) && ...) && (areSound(Kind<Entry>::call) && ...);
+}
+static_assert(
+    kindsAreSound<MissedCallItem, DialledCallItem, ReceivedCallItem, ForwardedCallItem>());
+
+} // namespace detail
+
+/// The kind that a record belongs to, an entry or a call.
+template <class Record>
+inline constexpr LogKind kindOf = Kind<Record>::kind;
+template <>
+inline constexpr LogKind kindOf<MissedCallItem::MissedCallInfo> = LogKind::missed;
+template <>
+inline constexpr LogKind kindOf<DialledCallItem::DialledCallInfo> = LogKind::dialled;
+template <>
+inline constexpr LogKind kindOf<ReceivedCallItem::ReceivedCallInfo> = LogKind::received;
+template <>
+inline constexpr LogKind kindOf<ForwardedCallItem::ForwardedCallInfo> = LogKind::forwarded;
 
 } // namespace journal
 

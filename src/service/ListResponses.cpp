@@ -4,21 +4,20 @@
 #include <cstdint>
 #include <limits>
 
-#include "ClientUtils.h"
 #include "JournalServiceHelper.h"
 #include "records/Encoder.h"
-#include "records/Kinds.h"
 #include "xml/Building.h"
+#include "xml/Text.h"
 
 using namespace journal;
 
 namespace {
 
-// The length of the longest answer so far, of whatever kind: the library's only state. It decides
-// how much memory is reserved and nothing else, so a relaxed maximum is enough.
+// The length of the longest answer so far, of any kind: the library's only state. It only affects
+// how much memory is reserved, so a relaxed maximum is enough.
 std::atomic<std::uint32_t> listResponseSizeHint{0};
 
-// A log that grew by some entries since the longest answer still fits.
+// Room for a log that grew by some entries since the longest answer.
 constexpr std::size_t roomToGrow = 4096;
 
 void raiseSizeHint(std::size_t size) {
@@ -30,25 +29,24 @@ void raiseSizeHint(std::size_t size) {
     continue;
 }
 
-std::string begun(std::string_view method) {
+std::string beginMessage(std::string_view method) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
   append(message, {element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
   return message;
 }
 
-void finish(std::string& message, unsigned int handle) {
+void endMessage(std::string& message, unsigned int handle) {
   append(message,
-         {element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
-          element<word::HANDLE>.close()});
+         {element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
   raiseSizeHint(message.size());
 }
 
-template <class Item>
-std::string listResponse(std::deque<Item> const& items, unsigned int handle) {
-  auto message = begun(Kind<Item>::method);
-  appendEntries(items, message);
-  finish(message, handle);
+template <class Entry>
+std::string listResponse(std::deque<Entry> const& log, unsigned int handle) {
+  auto message = beginMessage(Kind<Entry>::method);
+  appendLog(log, message);
+  endMessage(message, handle);
   return message;
 }
 

@@ -1,11 +1,11 @@
 // The service's notifications to its observers.
 #include <algorithm>
 
-#include "ClientUtils.h"
 #include "JournalServiceHelper.h"
 #include "records/Encoder.h"
-#include "records/Kinds.h"
 #include "xml/Building.h"
+#include "xml/Envelope.h"
+#include "xml/Text.h"
 
 using namespace journal;
 
@@ -21,35 +21,33 @@ std::string_view digitOf(Action action) {
 }
 
 // Not enveloped: everything that follows is appended behind the declaration.
-std::string begun(std::string_view method) {
+std::string beginMessage(std::string_view method) {
   return joined(
       {word::XMLHEADER, element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
 }
 
-void finish(std::string& message, std::string const& uniqueIdToDelete, Action action,
-            unsigned int handle) {
+void endMessage(std::string& message, std::string const& uniqueIdToDelete, Action action,
+                unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
   if (!uniqueIdToDelete.empty())
     append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
   append(message,
          {element<word::ACTIONTYPE>.begin(), digitOf(action), element<word::ACTIONTYPE>.close(),
-          element<word::HANDLE>.begin(), ClientUtils::itos(static_cast<std::int32_t>(handle)),
-          element<word::HANDLE>.close()});
+          element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
 }
 
-template <class Item>
-std::string entryUpdate(Item const& item, std::string const& uniqueIdToDelete, Action action,
+template <class Entry>
+std::string entryUpdate(Entry const& entry, std::string const& uniqueIdToDelete, Action action,
                         unsigned int handle) {
-  auto message = begun(Kind<Item>::update);
-  appendItemBody(item, message, false);
-  finish(message, uniqueIdToDelete, action, handle);
+  auto message = beginMessage(Kind<Entry>::update);
+  appendEntryBody(entry, message, false);
+  endMessage(message, uniqueIdToDelete, action, handle);
   return message;
 }
 
 std::string counterUpdate(std::string_view method, unsigned int count) {
   return enveloped({element<word::METHOD>.begin(), method, element<word::METHOD>.close(),
-                    element<word::VALUE>.begin(), std::to_string(static_cast<std::int32_t>(count)),
-                    element<word::VALUE>.close()});
+                    element<word::VALUE>.begin(), decimal(count), element<word::VALUE>.close()});
 }
 
 } // namespace

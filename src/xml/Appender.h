@@ -1,4 +1,4 @@
-// Writes behind a text, in room that is made for a whole record at once.
+// Appends to a text whose size is only set at the end.
 #ifndef JOURNAL_XML_APPENDER_H
 #define JOURNAL_XML_APPENDER_H
 
@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "xml/Bytes.h"
-#include "xml/Inline.h"
+#include "bytes/Bytes.h"
+#include "bytes/Inline.h"
 
 namespace journal {
 
@@ -19,34 +19,34 @@ JOURNAL_INLINE inline char* putTag(char* at, std::string_view tag) {
   return at + tag.size();
 }
 
-/// Copies a text of a size that only the data knows.
+/// The same for a text whose size is only known at run time.
 JOURNAL_INLINE inline char* putText(char* at, std::string_view text) {
   copyBytes(at, text.data(), text.size());
   return at + text.size();
 }
 
-/// While one lives, the text is longer than what it holds; only the appender may use it.
+/// As long as it exists, the text is longer than its contents, and only the appender may use it.
 class Appender {
 public:
-  /// @param out keeps what it holds
-  /// @param ahead how much room to make at a time where memory is reserved
+  /// @param out keeps its contents
+  /// @param ahead how far to enlarge the text at a time, as far as memory is reserved
   explicit Appender(std::string& out, std::size_t ahead = 0)
       : out_(out), ahead_(ahead), size_(out.size()) {}
   Appender(Appender const&) = delete;
   Appender& operator=(Appender const&) = delete;
 
-  /// Gives back the room that nothing was written to.
+  /// Cuts off what was not written.
   ~Appender() { out_.resize(size_); }
 
-  /// A place behind the text with room for `bound` characters. What is written there becomes a part
-  /// of the text with endAt.
+  /// A place behind the contents with room for `bound` characters. What is written there becomes
+  /// part of the text with endAt.
   JOURNAL_INLINE inline char* room(std::size_t bound) {
     if (out_.size() - size_ < bound)
       out_.resize(size_ + std::max(bound, std::min(ahead_, out_.capacity() - size_)));
     return &out_[size_];
   }
 
-  /// Ends the text where writing ended.
+  /// Sets the end of the contents.
   void endAt(char const* end) { size_ = static_cast<std::size_t>(end - out_.data()); }
 
   void append(std::string_view tag) { endAt(putTag(room(tag.size()), tag)); }

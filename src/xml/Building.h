@@ -1,27 +1,27 @@
-// Texts put together from pieces whose sizes are known beforehand, with memory taken once.
+// Concatenates texts, reserving their memory at once.
 #ifndef JOURNAL_XML_BUILDING_H
 #define JOURNAL_XML_BUILDING_H
 
+#include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
 namespace journal {
 
-/// The pieces one behind the other, appended to a text.
-void append(std::string& out, std::initializer_list<std::string_view> pieces);
+using Texts = std::initializer_list<std::string_view>;
 
-/// The pieces one behind the other.
-inline std::string joined(std::initializer_list<std::string_view> pieces) {
-  std::string text;
-  append(text, pieces);
-  return text;
+std::size_t sizeOf(Texts texts);
+
+/// Appends the texts in order.
+void append(std::string& out, Texts texts);
+
+/// The texts as one.
+inline std::string joined(Texts texts) {
+  std::string all;
+  append(all, texts);
+  return all;
 }
-
-/// A finished message: the XML declaration, then the body, inside a Schema element when
-/// schemaName is not empty.
-std::string enveloped(std::initializer_list<std::string_view> body,
-                      std::string_view schemaName = {});
 
 } // namespace journal
 

@@ -1,8 +1,8 @@
 // The public builders of single elements.
 #include "JournalServiceHelper.h"
 #include "vocabulary/Tags.h"
-#include "vocabulary/Words.h"
 #include "xml/Building.h"
+#include "xml/Text.h"
 
 using namespace journal;
 
@@ -22,7 +22,7 @@ std::string JournalServiceHelper::createXMLField(std::string const& name,
 }
 
 std::string JournalServiceHelper::createXMLField(std::string const& name, unsigned int value) {
-  return createXMLField(name, std::to_string(static_cast<std::int32_t>(value)));
+  return createXMLField(name, decimal(value));
 }
 
 std::string JournalServiceHelper::createXMLField(std::string const& name, bool value) {

@@ -14,12 +14,12 @@ using namespace journal;
 
 namespace {
 
-// Where an element's value stands in a whole message: the first begin tag and the first close tag,
-// looked for independently. The device compares positions as signed 32-bit numbers, in which a tag
-// that is not found stands at -1; a missing begin tag therefore does not rule a value out.
+// Where an element is in a whole message: the first begin tag and the first close tag, searched
+// independently. Positions are compared as signed 32-bit numbers, in which an absent tag counts as
+// position -1; so an absent begin tag does not rule out a value.
 struct Place {
-  std::size_t begin; // npos when the begin tag is missing
-  std::size_t value; // wraps to the begin tag's length less one in that case
+  std::size_t begin; // npos when the begin tag is absent
+  std::size_t value; // in that case, wraps to the begin tag's length less one
   std::size_t close;
   std::size_t behind; // behind the close tag
 };
@@ -47,8 +47,7 @@ std::string valueAt(Place const& place, std::string const& text) {
   return text.substr(place.value, place.close - place.value);
 }
 
-// Reads at a cursor, hands the raw value on (missing when a tag is) and returns where the cursor
-// stands then.
+// Reads at a cursor, passes the raw value on (absent when a tag is) and returns the new cursor.
 template <class Take>
 char const* readAt(char const* text, std::string const& begin, std::string const& close,
                    Take take) {

@@ -1,5 +1,4 @@
-// What the service and its clients read off a whole message: the method, the unique id of the first
-// entry, the call-log setting.
+// Reads a whole message: its method, the unique id of its first entry, the call-log setting.
 #include <string_view>
 #include <utility>
 
@@ -18,8 +17,8 @@ struct Method {
   JournalServiceHelper::MethodCode code;
 };
 
-// In the order of the search, which is not that of the codes; it decides when a damaged message
-// holds several tags. The group calls update is not here: it is sent, but never recognised.
+// In the order of the search, which differs from that of the codes and decides when a damaged
+// message holds several tags. The group calls update is not here: it is sent, but never recognised.
 constexpr Method methods[] = {
     {word::GETMISSEDCALLLIST_XML, JournalServiceHelper::GETMISSEDCALLLIST},
     {word::SETMISSEDCALLLISTASVIEWED_XML, JournalServiceHelper::SETMISSEDCALLLISTASVIEWED},
@@ -53,8 +52,8 @@ JournalServiceHelper::getMethodFromXMLMsg(std::string const& message) {
   auto const close = message.find(element<word::METHOD>.close());
   if (begin == std::string::npos || close == std::string::npos)
     return UNKNOWN_METHOD;
-  // With the close tag in front of the begin tag the difference wraps, and the search runs to the
-  // end of the message.
+  // With the close tag before the begin tag the difference wraps, and the search runs to the end of
+  // the message.
   auto const searched = std::string_view(message).substr(begin, close - begin);
   for (auto const& method : methods)
     if (searched.find(method.tag) != std::string_view::npos)
@@ -71,9 +70,10 @@ bool JournalServiceHelper::parseLastUniqueId(std::string const& message, std::st
   auto const close = text.find(element<word::ENTRY>.close(), entry);
   if (close == std::string_view::npos)
     return false;
-  // Written into the caller's text on purpose, for clients that rely on its ending here afterwards.
+  // Written into the caller's text on purpose: some clients rely on the text ending here
+  // afterwards.
   const_cast<char&>(message[close]) = '\0';
-  auto value = unescaped(readFirst<word::UNIQUEID>(text.substr(entry, close - entry)));
+  auto value = unescaped(readFirst(text.substr(entry, close - entry), element<word::UNIQUEID>));
   if (value.empty())
     return false;
   uniqueId = std::move(value);
@@ -81,6 +81,6 @@ bool JournalServiceHelper::parseLastUniqueId(std::string const& message, std::st
 }
 
 bool JournalServiceHelper::parseXMLEnabledStateItem(std::string const& message) {
-  auto const value = unescaped(readFirst<word::CALL_LOG_ENABLED>(viewOf(message.c_str())));
+  auto const value = unescaped(readFirst(viewOf(message.c_str()), element<word::CALL_LOG_ENABLED>));
   return value.empty() || value == word::ENABLED_TRUE;
 }

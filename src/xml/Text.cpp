@@ -1,4 +1,4 @@
-// Values and numbers read from texts.
+// Values and numbers, read from texts and written into them.
 #include "xml/Text.h"
 
 #include <cstddef>
@@ -9,9 +9,17 @@
 namespace journal {
 
 std::string unescaped(std::string_view raw) {
-  if (isMissing(raw))
+  if (isAbsent(raw))
     return {};
   return ClientUtils::unescapeXMLString(std::string(raw));
+}
+
+std::string decimal(unsigned int number) {
+  return std::to_string(static_cast<std::int32_t>(number));
+}
+
+std::string handleText(unsigned int handle) {
+  return ClientUtils::itos(static_cast<std::int32_t>(handle));
 }
 
 std::int32_t numberAtFrontOf(std::string_view text) {

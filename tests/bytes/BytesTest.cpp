@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "xml/Bytes.h"
+#include "bytes/Bytes.h"
 
 namespace {
 

@@ -1,23 +1,24 @@
-// Bytes compared and scanned a machine word at a time, where code is built for speed. Every load
-// lies within the bytes that the caller names.
-#ifndef JOURNAL_XML_BYTES_H
-#define JOURNAL_XML_BYTES_H
+// Compares, copies and searches bytes, a machine word at a time where the code is built for speed.
+// Every load stays within the bytes that the caller passes.
+#ifndef JOURNAL_BYTES_BYTES_H
+#define JOURNAL_BYTES_BYTES_H
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
 
-#include "xml/Inline.h"
+#include "bytes/Inline.h"
 
 namespace journal {
 
-/// Loads a word from any address; through a packed structure, because g++ for MIPS takes a memcpy
-/// of eight bytes over the stack.
+/// Loads a word from any address. A packed structure does it, because g++ for MIPS copies eight
+/// bytes by way of the stack when it is given a memcpy.
 template <class Word>
 JOURNAL_INLINE inline Word load(char const* at) {
   struct [[gnu::packed, gnu::may_alias]] Unaligned {
@@ -28,7 +29,8 @@ JOURNAL_INLINE inline Word load(char const* at) {
 
 namespace detail {
 
-/// Compares by whole words; the last one overlaps the one before it, so that none reaches further.
+/// Compares whole words. The last one may overlap the one before it, so that no load goes past
+/// the end.
 template <class Word>
 JOURNAL_INLINE inline bool sameWords(char const* left, char const* right, std::size_t size) {
   auto const last = size - sizeof(Word);
@@ -38,7 +40,7 @@ JOURNAL_INLINE inline bool sameWords(char const* left, char const* right, std::s
   return difference == 0;
 }
 
-/// Copies two words, which overlap when there is not enough for both.
+/// Copies two words, which may overlap.
 template <class Word>
 JOURNAL_INLINE inline void copyEnds(char* to, char const* from, std::size_t size) {
   auto const last = size - sizeof(Word);
@@ -54,7 +56,7 @@ struct Pair {
 
 #ifdef __SSE2__
 
-/// As many bytes as are looked at at once, and where among them the first `byte` or NUL is.
+/// A block of bytes that is searched at once for `byte` or NUL.
 struct Block {
   static constexpr std::ptrdiff_t size = 16;
 
@@ -69,11 +71,11 @@ struct Block {
 
 #else
 
-/// As many bytes as are looked at at once, and where among them the first `byte` or NUL is.
+/// A block of bytes that is searched at once for `byte` or NUL.
 struct Block {
   static constexpr std::ptrdiff_t size = 8;
 
-  /// Sets the top bit of each byte that is found, and no other bit, whichever end comes first.
+  /// Sets the top bit of each byte found, and no other bit, on either byte order.
   JOURNAL_INLINE static inline std::uint64_t find(char const* at, char byte) {
     constexpr std::uint64_t ones = 0x0101010101010101;
     auto const bytes = load<std::uint64_t>(at);
@@ -100,20 +102,24 @@ private:
 
 } // namespace detail
 
-/// Compares with a text of 4 characters or more, as every tag is. Where the compiler knows the
-/// size, this takes a few instructions.
+/// The fewest bytes that sameBytes compares.
+inline constexpr std::size_t smallestCompared = sizeof(std::uint32_t);
+
+/// Compares `size` bytes, at least smallestCompared. Where the compiler knows the size, this takes
+/// a few instructions.
 JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::size_t size) {
   if (!builtForSpeed)
-    return std::memcmp(left, right, size) == 0;
+    return std::char_traits<char>::compare(left, right, size) == 0;
   if (size < sizeof(std::uint64_t))
     return detail::sameWords<std::uint32_t>(left, right, size);
   return detail::sameWords<std::uint64_t>(left, right, size);
 }
 
-namespace detail {
+/// How many bytes sameFront loads.
 inline constexpr std::size_t frontSize = 16;
 
-/// Ones, then zeros: read from `frontSize` less n on, a mask for the first n bytes.
+namespace detail {
+/// Ones, then zeros: loaded from index frontSize - n, a mask for the first n bytes.
 inline constexpr auto frontMasks = [] {
   std::array<char, 2 * frontSize> masks{};
   for (std::size_t at = 0; at < frontSize; ++at)
@@ -122,19 +128,20 @@ inline constexpr auto frontMasks = [] {
 }();
 } // namespace detail
 
-/// Compares the first `size` bytes of two places from which 16 can be loaded.
+/// Compares the first `size` bytes, at most frontSize. frontSize bytes must be readable at both
+/// places.
 JOURNAL_INLINE inline bool sameFront(char const* left, char const* right, std::size_t size) {
   if (!builtForSpeed)
-    return std::memcmp(left, right, size) == 0;
-  auto const* const mask = detail::frontMasks.data() + detail::frontSize - size;
+    return std::char_traits<char>::compare(left, right, size) == 0;
+  auto const* const mask = detail::frontMasks.data() + frontSize - size;
   std::uint64_t difference = 0;
-  for (std::size_t at = 0; at < detail::frontSize; at += sizeof difference)
+  for (std::size_t at = 0; at < frontSize; at += sizeof difference)
     difference |= (load<std::uint64_t>(left + at) ^ load<std::uint64_t>(right + at)) &
                   load<std::uint64_t>(mask + at);
   return difference == 0;
 }
 
-/// Copies bytes, mostly few, of a size that only the data knows.
+/// Copies bytes of a size that is only known at run time and usually small.
 JOURNAL_INLINE inline void copyBytes(char* to, char const* from, std::size_t size) {
   if (!builtForSpeed || size > 2 * sizeof(detail::Pair))
     std::memcpy(to, from, size);
@@ -149,7 +156,7 @@ JOURNAL_INLINE inline void copyBytes(char* to, char const* from, std::size_t siz
       to[at] = from[at];
 }
 
-/// The first `byte` or NUL in front of `end`; `end` when there is none.
+/// The first `byte` or NUL before `end`; `end` when there is none.
 JOURNAL_INLINE inline char const* findByteOrNul(char const* at, char const* end, char byte) {
   if (builtForSpeed)
     for (; end - at >= detail::Block::size; at += detail::Block::size)

@@ -1,5 +1,5 @@
-// What the straight road looks for at once. An error here would only send readers another way to
-// the same result, and no test of results could see it.
+// The literal runs that the strict parser compares at once. An error in them would only send readers
+// to the fallback, which gives the same result, so no test of results could see it.
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -9,25 +9,25 @@
 
 #include <gtest/gtest.h>
 
+#include "records/FieldLists.h"
 #include "records/Kinds.h"
-#include "records/Walks.h"
 
 namespace {
 
 using Texts = std::vector<std::string>;
 
-template <auto const& rows, std::size_t... index>
+template <auto const& fields, std::size_t... index>
 Texts runsOf(std::index_sequence<index...>) {
   Texts runs;
-  for (std::string_view const run : {journal::detail::Run<rows, index>::text...})
+  for (std::string_view const run : {journal::detail::LiteralRun<fields, index>::text...})
     if (!run.empty())
       runs.emplace_back(run);
   return runs;
 }
 
-template <auto const& rows>
+template <auto const& fields>
 Texts runsOf() {
-  return runsOf<rows>(std::make_index_sequence<std::size(rows)>());
+  return runsOf<fields>(std::make_index_sequence<std::size(fields)>());
 }
 
 std::string const noConnectedType = "<ConnectedNumberType>NO_ICON</ConnectedNumberType>";
@@ -39,20 +39,20 @@ std::string const notDeflected =
     "<DeflectNamePresentation>NOT_AVAILABLE</DeflectNamePresentation>";
 std::string const format = "<TimeFormat>FORM_24</TimeFormat>";
 
-TEST(Runs, OfCallsAreWhatMostCallsHold) {
+TEST(LiteralRuns, OfCallsAreWhatMostCallsHold) {
   Texts const incoming = {noConnectedType, shownNumber, shownName, notDeflected, format};
-  EXPECT_EQ(incoming, runsOf<journal::Kind<MissedCallItem>::detail>());
-  EXPECT_EQ(incoming, runsOf<journal::Kind<ReceivedCallItem>::detail>());
+  EXPECT_EQ(incoming, runsOf<journal::Kind<MissedCallItem>::call>());
+  EXPECT_EQ(incoming, runsOf<journal::Kind<ReceivedCallItem>::call>());
 
   Texts const dialled = {"<ConnectedNumberPriority>False</ConnectedNumberPriority>" +
                              noConnectedType,
                          shownNumber, shownName, format};
-  EXPECT_EQ(dialled, runsOf<journal::Kind<DialledCallItem>::detail>());
+  EXPECT_EQ(dialled, runsOf<journal::Kind<DialledCallItem>::call>());
 
-  EXPECT_EQ(Texts{noConnectedType}, runsOf<journal::Kind<ForwardedCallItem>::detail>());
+  EXPECT_EQ(Texts{noConnectedType}, runsOf<journal::Kind<ForwardedCallItem>::call>());
 }
 
-TEST(Runs, OfEntriesAreNone) {
+TEST(LiteralRuns, OfEntriesAreNone) {
   EXPECT_EQ(Texts(), runsOf<journal::Kind<MissedCallItem>::entry>());
   EXPECT_EQ(Texts(), runsOf<journal::Kind<DialledCallItem>::entry>());
   EXPECT_EQ(Texts(), runsOf<journal::Kind<ReceivedCallItem>::entry>());

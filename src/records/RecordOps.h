@@ -1,0 +1,43 @@
+// What the encoder and the decoder need to know of a kind of log: the only code that knows the
+// types of records is behind these pointers, so there is one encoder and one decoder for all kinds.
+#ifndef JOURNAL_RECORDS_RECORDOPS_H
+#define JOURNAL_RECORDS_RECORDOPS_H
+
+#include "records/FieldLists.h"
+#include "records/Kinds.h"
+
+namespace journal {
+
+class FieldReader;
+class RecordWriter;
+class StrictParser;
+
+/// The pointers are to records and containers of one kind: a log is a std::deque of entries, calls
+/// are a std::list.
+struct RecordOps {
+  // The fields in the order in which the fallback searches them.
+  LoopedFields entryFields;
+  LoopedFields callFields;
+
+  // Reading and writing the fields, unrolled where the code is built for speed.
+  bool (*parseEntryFields)(StrictParser& parser, void* entry, FieldReader& reader);
+  bool (*parseCall)(StrictParser& parser, void* call, FieldReader& reader);
+  void (*writeEntryFields)(RecordWriter& writer, void const* entry);
+  void (*writeCalls)(RecordWriter& writer, void const* entry);
+  void (*writeEntries)(RecordWriter& writer, void const* log);
+
+  // Filling the containers.
+  void (*clearLog)(void* log);
+  void* (*appendEntry)(void* log);
+  void (*dropLastEntry)(void* log);
+  void* (*callsOf)(void* entry);
+  void (*clearCalls)(void* calls);
+  void* (*appendCall)(void* calls);
+  bool (*isEmpty)(void const* calls);
+};
+
+RecordOps const& opsOf(LogKind kind);
+
+} // namespace journal
+
+#endif
