@@ -1,7 +1,7 @@
 /// @file
-/// The messages of the journal service, the call-log service of the device: builds them from
-/// call-log records and reads them back. Every operation is a static member of the one class
-/// below. The library sends and receives nothing; its callers carry the texts.
+/// Builds the messages of the journal service, the call-log service of the device, from call-log
+/// records, and reads them back. Every operation is a static member of the one class below. The
+/// library sends and receives nothing; its callers carry the texts.
 ///
 ///     client    asks for a log, deletes entries    req...
 ///               reads a log                        parseXML...List
@@ -292,7 +292,7 @@ public:
   // The service notifies its observers
   //
   // There is one notification per log for a changed entry, and two for counters. Each begins with
-  // the XML declaration and the Method element. An observer reads them so:
+  // the XML declaration and the Method element. An observer reads them like this:
   //
   //     which notification   getMethodFromXMLMsg(message)
   //     the changed entry    parseXMLMissedCallItem(message, item) and its siblings
