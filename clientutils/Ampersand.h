@@ -1,6 +1,6 @@
-// Looks for an ampersand in a text. Nearly every text is short and holds none, so the search is
-// made in place: on x86-64, calling memchr for each takes more than twice as long, which is a tenth
-// of the time of decoding a log.
+// Searches a text for an ampersand. Nearly every text is short and holds none, so short texts are
+// searched inline: on x86-64, calling memchr for each takes more than twice as long, which is a
+// tenth of the time of decoding a log.
 #ifndef CLIENTUTILS_AMPERSAND_H
 #define CLIENTUTILS_AMPERSAND_H
 
@@ -15,7 +15,7 @@
 
 namespace ampersand {
 
-// The sizes of the texts that count as short.
+// The sizes of texts that are searched inline.
 inline constexpr std::size_t shortest = 4;
 inline constexpr std::size_t longest = 32;
 
@@ -40,7 +40,7 @@ inline bool isInEither(__m128i front, __m128i back) {
   return _mm_movemask_epi8(found) != 0;
 }
 
-/// As much is loaded from the back of the text as from its front; the two meet or overlap.
+/// Loads as many bytes from the back of the text as from its front; the two meet or overlap.
 inline bool isInShort(char const* text, std::size_t size) {
   if (size >= 16)
     return isInEither(load16(text), load16(text + size - 16));
@@ -51,16 +51,16 @@ inline bool isInShort(char const* text, std::size_t size) {
 
 #else
 
-/// By words; the last may overlap the one before it.
+/// Searches word by word; the last word may overlap the one before it.
 inline bool isInShort(char const* text, std::size_t size) {
-  // A word at any address; g++ for MIPS takes a memcpy over the stack.
+  // A word at any address. A memcpy would go through the stack with g++ for MIPS.
   struct [[gnu::packed, gnu::may_alias]] Unaligned {
     std::uint32_t word;
   };
   constexpr std::uint32_t ones = 0x01010101;
   // Sets the top bit of at least one byte if the word holds an ampersand, and of none otherwise.
-  // The xor makes each ampersand 0; a byte without its top bit gains it, when 1 is taken from each
-  // byte, only by being 0 or by the borrow of such a byte.
+  // The xor turns each ampersand into 0. Then 1 is subtracted from each byte: a byte without its
+  // top bit gains it only if it is 0, or by the borrow of a byte that is 0.
   auto const marked = [](char const* at) {
     auto const word = reinterpret_cast<Unaligned const*>(at)->word ^ ones * '&';
     return (word - ones) & ~word;
@@ -74,12 +74,12 @@ inline bool isInShort(char const* text, std::size_t size) {
 
 #endif
 
-/// Apart, so that the way of short texts saves no registers for it.
+/// Not inlined, so that the path for short texts saves no registers for the call.
 [[gnu::noinline]] inline bool isInOther(char const* text, std::size_t size) {
   return std::memchr(text, '&', size) != nullptr;
 }
 
-/// Whether a text, of any length and with any bytes, holds an ampersand.
+/// Whether a text of any length, with any bytes, holds an ampersand.
 inline bool isIn(std::string_view text) {
   auto const size = text.size();
   return size < shortest || size > longest ? isInOther(text.data(), size)

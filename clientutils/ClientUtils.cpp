@@ -1,4 +1,4 @@
-// The stand-in for the product's utility library: escaping in one pass, integer texts.
+// The stand-in for the product's utility library: escaping in one pass, decimal numbers.
 #include "ClientUtils.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ constexpr Entity entities[] = {
     {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"},
 };
 
-// A bit for each special character; all their codes are below 64, and few others' are.
+// One bit per special character. Their codes are all below 64, as few others are.
 constexpr std::uint64_t specials = [] {
   std::uint64_t bits = 0;
   for (Entity const& entity : entities)
@@ -33,8 +33,8 @@ constexpr bool isSpecial(char character) {
   return code < 64 && (specials >> code & 1) != 0;
 }
 
-// Letters all have codes from 64 on. They are passed over by words, up to the first word that holds
-// another code; the last word overlaps the one before it.
+// All letters have codes from 64 on. This skips them word by word, up to the first word that holds
+// another code; the last word may overlap the one before it.
 std::size_t lettersAtFrontOf(std::string_view text) {
   using Word = std::uint32_t;
   constexpr Word top = 0x80808080;
@@ -65,7 +65,8 @@ std::string_view entityOf(char special) {
   return entity->text;
 }
 
-// The entity that an ampersand at the front of a text begins; itself when it begins none.
+// The entity that starts with the ampersand at the front of a text; the ampersand itself when none
+// does.
 Entity entityAtFrontOf(std::string_view text) {
   for (Entity const& entity : entities)
     if (text.substr(0, entity.text.size()) == entity.text)
@@ -73,8 +74,8 @@ Entity entityAtFrontOf(std::string_view text) {
   return {'&', "&"};
 }
 
-// Most texts hold nothing to replace. The others are left to these two, so that the way of the many
-// is short.
+// Most texts hold nothing to replace. These two handle the others and are not inlined, so that the
+// path for most texts is short.
 
 [[gnu::noinline]] std::string escapedFrom(std::size_t special, std::string_view rest) {
   std::string escaped;
@@ -89,7 +90,8 @@ Entity entityAtFrontOf(std::string_view text) {
   return escaped;
 }
 
-// Hands the pieces of an escaped text on: what stands between the entities, and their characters.
+// Calls take(piece) for each piece of the unescaped text: the texts between the entities, and the
+// entities' characters.
 template <class Take>
 void unescape(std::string_view rest, Take take) {
   for (auto at = rest.find('&'); at != std::string_view::npos; at = rest.find('&')) {
@@ -103,7 +105,7 @@ void unescape(std::string_view rest, Take take) {
 }
 
 [[gnu::noinline]] std::string restored(std::string const& text) {
-  // Measured first: a name that is short without its entities then takes no memory of its own.
+  // Measured first, so that a name that is short without its entities allocates nothing.
   std::size_t size = 0;
   unescape(text, [&size](std::string_view piece) { size += piece.size(); });
   std::string unescaped;

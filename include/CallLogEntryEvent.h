@@ -1,14 +1,15 @@
-// The enumerations of one call: its time format, presentation rights and target log.
+/// @file
+/// The enumerations of one call: time format, presentation and target log.
 #ifndef CALLLOGENTRYEVENT_H
 #define CALLLOGENTRYEVENT_H
 
 #include <cstdint>
 
-/// Holds the enumerations of a call's details. Each member is spelled in messages by its own
-/// name. Any 32-bit value may be stored; a value outside the members is written as the
-/// enumeration's default member, and a text that names no member is read as that member.
+/// Holds the enumerations of a call. Messages carry a member by its name. Any 32-bit value may be
+/// stored; a value outside the members is written as the enumeration's default member, and a text
+/// that names no member is read as the default member.
 struct CallLogEntryEvent {
-  /// How the call's time and date are to be shown; element TimeFormat.
+  /// How to show the time of the call; element TimeFormat.
   enum _TFormat : std::int32_t {
     FORM_24 = 0, ///< 24-hour clock; the default
     FORM_AM = 1,

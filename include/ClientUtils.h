@@ -1,5 +1,6 @@
-// The utility library that the message library takes its escaping and integer texts from. The one
-// built here stands in for the product's own, which may be linked in its place.
+/// @file
+/// The utility library, which the message library uses for escaping and for decimal numbers. The
+/// one built here is a stand-in for the product's own, which can be linked instead.
 #ifndef CLIENTUTILS_H
 #define CLIENTUTILS_H
 
@@ -14,16 +15,16 @@ public:
   ClientUtils() = delete;
 
   /// Replaces each of the five XML special characters by its predefined entity:
-  /// & by &amp;  < by &lt;  > by &gt;  " by &quot;  ' by &apos;
+  /// `&` by `&amp;`, `<` by `&lt;`, `>` by `&gt;`, `"` by `&quot;`, `'` by `&apos;`.
   /// Every other byte, NUL included, is copied as it is.
   /// @param text any bytes
   /// @return the escaped text
   static std::string escapeXMLString(std::string const& text);
 
-  /// Replaces each of the five predefined entities by its character, in one pass from the front:
-  /// what a replacement yields is not looked at again, so "&amp;lt;" gives "&lt;". A lone ampersand
-  /// and an unknown entity stay as they are.
-  /// unescapeXMLString(escapeXMLString(text)) is text for every text.
+  /// Replaces each of the five predefined entities by its character, in one pass from the front: a
+  /// replacement is not looked at again, so `&amp;lt;` gives `&lt;`. A lone ampersand and an
+  /// unknown entity are copied as they are. unescapeXMLString(escapeXMLString(text)) is text for
+  /// every text.
   /// @param text any bytes
   /// @return the unescaped text
   static std::string unescapeXMLString(std::string const& text);

@@ -1,4 +1,5 @@
-// Marks what the shared libraries export. Everything else is compiled with hidden visibility.
+/// @file
+/// JOURNAL_EXPORT marks what the shared libraries export; all else has hidden visibility.
 #ifndef JOURNALSERVICEHELPER_EXPORT_H
 #define JOURNALSERVICEHELPER_EXPORT_H
 

@@ -1,16 +1,17 @@
-// The type of a telephone number, as the records hold it and the messages spell it.
+/// @file
+/// The type of a telephone number.
 #ifndef NUMBERTYPE_H
 #define NUMBERTYPE_H
 
 #include <cstdint>
 
-/// Holds the enumeration of number types; carried by the elements NumberType,
-/// ConnectedNumberType and DeflectNumberType.
+/// Holds the enumeration of number types; elements NumberType, ConnectedNumberType and
+/// DeflectNumberType.
 struct NumberType {
-  /// Each member is spelled in messages by its own name. A value outside the members may be
-  /// stored; it is written as NO_ICON. A text that names no member is read as NO_ICON.
+  /// Messages carry a member by its name. Any 32-bit value may be stored; a value outside the
+  /// members is written as NO_ICON, and a text that names no member is read as NO_ICON.
   enum NT : std::int32_t {
-    NO_ICON = 0, ///< no type known; the default
+    NO_ICON = 0, ///< the type is not known; the default
     PRIVATE = 1,
     BUSINESS1 = 2,
     BUSINESS2 = 3,
