@@ -2,12 +2,12 @@
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
+#include "members/Equality.h"
 #include "peers/ExpatPeer.h"
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
 #include "peers/TinyXml2Peer.h"
-#include "records/RecordComparison.h"
 
 namespace bench {
 
@@ -23,7 +23,7 @@ void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
     auto decoder = decoderOf(sample);
     timeProven<destruction>(
         state, name, [&] { return decoder.decode(); },
-        [&] { return decoder.decode() == sample.decoded; });
+        [&] { return members::equal(decoder.decode(), sample.decoded); });
     state.counters["message"] = static_cast<double>(sample.message.size());
   });
 }

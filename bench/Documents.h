@@ -17,10 +17,10 @@ inline void writeElement(std::string& out, std::string const& name, std::string 
 
 template <class Record>
 void writeFields(std::string& out, Record const& record) {
-  forEachField<Record>([&](auto const& field) {
-    auto const& value = record.*field.member;
+  forEachElement<Record>([&](auto const& member) {
+    auto const& value = member.in(record);
     if (isWritten(value))
-      writeElement(out, std::string(field.name), textOf(value));
+      writeElement(out, std::string(member.element), textOf(value));
   });
 }
 

@@ -13,20 +13,20 @@ namespace bench::dom {
 
 template <class Node, class Record>
 void assignByName(Node node, Record& record) {
-  forEachField<Record>([&](auto const& field) {
-    if (field.read == Read::stored && node.is(field.name))
-      assign(record.*field.member, node.text());
+  forEachElement<Record>([&](auto const& member) {
+    if (isStored(member) && node.is(member.element))
+      assign(member.in(record), node.text());
   });
 }
 
 /// @return the first sibling that did not stand where it is expected
 template <class Node, class Record>
 Node readInOrder(Node node, Record& record) {
-  forEachField<Record>([&](auto const& field) {
-    if (!node || !node.is(field.name))
+  forEachElement<Record>([&](auto const& member) {
+    if (!node || !node.is(member.element))
       return;
-    if (field.read == Read::stored)
-      assign(record.*field.member, node.text());
+    if (isStored(member))
+      assign(member.in(record), node.text());
     node = node.next();
   });
   return node;

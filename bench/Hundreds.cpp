@@ -6,7 +6,7 @@
 
 #include "Samples.h"
 #include "Timing.h"
-#include "records/RecordComparison.h"
+#include "members/Equality.h"
 
 namespace bench {
 
@@ -37,7 +37,7 @@ struct Hundreds {
     Log joined;
     for (auto const& log : decode())
       joined.insert(joined.end(), log.begin(), log.end());
-    return joined == sampleOf<Kind>(LARGE).decoded;
+    return members::equal(joined, sampleOf<Kind>(LARGE).decoded);
   }
 
   std::vector<std::string> messages;

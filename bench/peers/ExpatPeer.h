@@ -44,17 +44,17 @@ private:
 
   template <std::size_t index>
   static void setField(Record& record, std::string_view text) {
-    constexpr auto field = std::get<index>(fieldsOf<Record>);
-    if constexpr (field.read == Read::stored)
-      assign(record.*field.member, text);
+    constexpr auto member = std::get<index>(elementsOf<Record>);
+    if constexpr (isStored(member))
+      assign(member.in(record), text);
   }
 
   template <std::size_t... index>
   static constexpr std::array<Setter, sizeof...(index)> setters(std::index_sequence<index...>) {
-    return {Setter{std::get<index>(fieldsOf<Record>).name.data(), &setField<index>}...};
+    return {Setter{std::get<index>(elementsOf<Record>).element.data(), &setField<index>}...};
   }
 
-  static constexpr std::size_t SIZE = std::tuple_size_v<decltype(fieldsOf<Record>)>;
+  static constexpr std::size_t SIZE = std::tuple_size_v<decltype(elementsOf<Record>)>;
   static constexpr std::array<Setter, SIZE> SETTERS = setters(std::make_index_sequence<SIZE>());
 
   std::size_t expected_ = 0;

@@ -5,28 +5,47 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <google/protobuf/arena.h>
 
 #include "Kinds.h"
-#include "peers/ProtobufRecords.h"
+#include "LogConversion.h"
 
 namespace bench {
 
 namespace protobuf {
 
-inline pb::MissedLog messageOf(Missed) {
-  return {};
+/// Copies each text, which leaves the message its memory.
+struct Copied {
+  static void take(std::string& field, std::string const& text) {
+    if (!text.empty())
+      field = text;
+  }
+};
+
+/// Moves each text out of the message.
+struct Moved {
+  static void take(std::string& field, std::string const& text) {
+    // The message itself is not const, and a text that is not empty is its own. Asking for it with
+    // mutable_...() would create each absent one.
+    if (!text.empty())
+      field = std::move(const_cast<std::string&>(text));
+  }
+};
+
+template <class Texts, class Message, class Log>
+void readLog(Texts texts, Message const& message, Log& log) {
+  for (auto const& entry : message.entries())
+    read(texts, entry, log.emplace_back());
 }
-inline pb::DialledLog messageOf(Dialled) {
-  return {};
-}
-inline pb::ReceivedLog messageOf(Received) {
-  return {};
-}
-inline pb::ForwardedLog messageOf(Forwarded) {
-  return {};
+
+template <class Log, class Message>
+void writeLog(Log const& log, Message& message) {
+  for (auto const& item : log)
+    write(item, *message.add_entries());
+  message.set_handle(7);
 }
 
 template <class Kind>

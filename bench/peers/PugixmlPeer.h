@@ -85,10 +85,10 @@ private:
 
   template <class Record>
   static void appendFields(pugi::xml_node parent, Record const& record) {
-    forEachField<Record>([&](auto const& field) {
-      auto const& value = record.*field.member;
+    forEachElement<Record>([&](auto const& member) {
+      auto const& value = member.in(record);
       if (isWritten(value))
-        append(parent, field.name.data(), textOf(value));
+        append(parent, member.element.data(), textOf(value));
     });
   }
 
