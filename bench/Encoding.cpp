@@ -34,7 +34,7 @@ template <class Kind>
 void addKind(std::size_t size) {
   using S = Sample<Kind>;
   auto const sameText = [](std::string const& text, S const& s) { return text == s.message; };
-  // A document of a peer's need not have the bytes of ours, but has to hold the same.
+  // A peer's document may have other bytes than ours, but has to hold the same records.
   auto const sameDocument = [](std::string_view text, S const& s) {
     return members::equal(RapidXmlDecoder<Kind>(std::string(text)).decode(), s.decoded);
   };

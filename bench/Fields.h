@@ -1,8 +1,8 @@
 // The elements of the records, for the peers: each with the member that it carries.
 //
-// They come from the list of members, which is independent of the library's own tables, so that a
-// peer's records prove something when they come out the same. Peers write and expect the elements
-// in the list's order.
+// They come from the list of members, which is independent of the library's own tables. So it
+// proves something when a peer produces the same records. Peers write and expect the elements in
+// the list's order.
 #ifndef BENCH_FIELDS_H
 #define BENCH_FIELDS_H
 
@@ -32,7 +32,7 @@ constexpr auto elements(std::index_sequence<index...>) {
 
 } // namespace detail
 
-/// The members of a record that elements with a value carry, as a tuple.
+/// The members of a record that messages carry as values, as a tuple; not the list of calls.
 template <class Record>
 inline constexpr auto elementsOf = detail::elements<Record>(
     std::make_index_sequence<std::tuple_size_v<decltype(members::list<Record>)>>());
@@ -43,7 +43,7 @@ inline void forEachElement(Visit visit) {
   std::apply([&](auto const&... member) { (visit(member), ...); }, elementsOf<Record>);
 }
 
-/// Whether a reader stores the element. Readers pass over those that the library's do.
+/// Whether a reader stores the element. Peers skip the same elements as the library.
 template <class Member>
 constexpr bool isStored(Member const& member) {
   return member.travel == members::Travel::bothWays;

@@ -1,6 +1,5 @@
 // Decoding a large log's entries in logs of 100, one after the other. None is destroyed before the
-// last is decoded, so as much memory is gone through as for the large log: the two differ in the
-// size of the log alone.
+// last is decoded, so they touch as much memory as the large log: only the size of a log differs.
 #include <string>
 #include <vector>
 

@@ -18,7 +18,7 @@ inline void assign(bool& field, std::string_view text) {
   field = text == "True";
 }
 
-/// A word that names no member leaves the field as it is, at its default in a new record.
+/// A word that names no member leaves the field at its value, which is the default in a new record.
 template <class Enum>
 inline void assign(Enum& field, std::string_view text) {
   for (auto const& enumerator : members::enumerators<Enum>)

@@ -1,4 +1,4 @@
-// libxml2's writer: streams the document into a buffer that is kept.
+// libxml2's writer: streams the document into a buffer that is reused.
 #ifndef BENCH_PEERS_LIBXMLPEER_H
 #define BENCH_PEERS_LIBXMLPEER_H
 

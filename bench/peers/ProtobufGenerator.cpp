@@ -1,5 +1,5 @@
-// Writes what the Protobuf peer has to know of the records, from the list of members: logs.proto,
-// and LogConversion.h with the functions from record to message and back.
+// Generates the Protobuf schema of the records, logs.proto, and LogConversion.h with the functions
+// that convert a record to a message and back, from the list of members.
 //
 // usage: journal_bench_protobuf_generator FOLDER
 #include <algorithm>
@@ -53,10 +53,10 @@ private:
     addWriter<Record>(kind + "::" + record + " const& from, pb::" + kind + record + "& to");
   }
 
-  // Texts are bytes: the records hold byte strings, and bytes spare Protobuf the check for UTF-8.
-  // Enumerations are int32: that takes the same bytes as an enumeration of Protobuf's. Texts have
-  // the first numbers: a number above 15 takes a byte more, and the enumerations that come last are
-  // mostly 0, which is not written.
+  // Texts are bytes: the records hold byte strings, and Protobuf does not check bytes for UTF-8.
+  // Enumerations are int32, which is encoded in the same bytes as a Protobuf enumeration. Texts get
+  // the first field numbers: a number above 15 takes one more byte, and the enumerations at the end
+  // are mostly 0, which is not written.
   template <class Record>
   void addMessage(std::string const& kind, std::string const& record) {
     int number = 0;
@@ -97,7 +97,7 @@ private:
     conversion_ << "}\n";
   }
 
-  // A text is set when it is not empty, which is what is written of it.
+  // Empty texts are not set, as the library does not write them.
   template <class Record>
   void addWriter(std::string const& parameters) {
     conversion_ << "inline void write(" << parameters << ") {\n";
@@ -113,7 +113,7 @@ private:
     conversion_ << "}\n";
   }
 
-  /// Protobuf names the functions of a field after it, in lower case.
+  /// Protobuf's accessors have the name of their field in lower case.
   static std::string accessor(std::string_view name) {
     std::string text(name);
     std::transform(text.begin(), text.end(), text.begin(),

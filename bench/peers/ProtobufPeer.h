@@ -1,5 +1,5 @@
-// Protobuf: the same fields as a binary message, in the three ways that its message objects are
-// used: made for each operation, made for each on an arena, or kept from one to the next.
+// Protobuf: the same fields as a binary message. Its message objects are used in three ways:
+// created for each operation, created for each on an arena, or reused.
 #ifndef BENCH_PEERS_PROTOBUFPEER_H
 #define BENCH_PEERS_PROTOBUFPEER_H
 
@@ -17,7 +17,7 @@ namespace bench {
 
 namespace protobuf {
 
-/// Copies each text, which leaves the message its memory.
+/// Copies each text, so that the message keeps its memory.
 struct Copied {
   static void take(std::string& field, std::string const& text) {
     if (!text.empty())
@@ -28,8 +28,8 @@ struct Copied {
 /// Moves each text out of the message.
 struct Moved {
   static void take(std::string& field, std::string const& text) {
-    // The message itself is not const, and a text that is not empty is its own. Asking for it with
-    // mutable_...() would create each absent one.
+    // The cast is safe: the message itself is not const, and it owns every text that is not empty.
+    // mutable_...() would create each absent text.
     if (!text.empty())
       field = std::move(const_cast<std::string&>(text));
   }
@@ -84,8 +84,7 @@ private:
   std::vector<char> block_ = std::vector<char>(4 << 20);
 };
 
-/// One message for all operations. Cleared, it keeps the objects and texts of the last log, so that
-/// a log of the same shape finds all its memory there.
+/// One message for all operations. After Clear() it keeps the memory of the last log for the next.
 template <class Kind>
 class Kept {
 public:
