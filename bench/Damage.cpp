@@ -1,4 +1,4 @@
-// Messages as a careless or an older writer might send them.
+// Damages messages, as a faulty or an older writer might.
 #include "Damage.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ std::string_view nameOf(std::string const& leaf) {
   return std::string_view(leaf).substr(1, leaf.find('>') - 1);
 }
 
-// A begin tag whose next tag is its close tag makes a leaf, any other tag stands alone.
+// A begin tag directly followed by its close tag makes a leaf; any other tag is a piece of its own.
 Pieces piecesOf(std::string_view text) {
   Pieces pieces;
   while (!text.empty()) {
@@ -52,7 +52,7 @@ void damageRecord(Pieces& record, Damage damage, std::vector<std::string_view> c
   std::size_t const at = random.below(record.size() - 1);
   switch (damage) {
   case Damage::newlines:
-    break; // stands between the pieces, not in a record
+    break; // goes between the pieces, not into a record
   case Damage::swapped:
     std::swap(record[at], record[at + 1]);
     break;

@@ -1,4 +1,4 @@
-// Messages as a careless or an older writer might send them.
+// Damages messages, as a faulty or an older writer might.
 #ifndef BENCH_DAMAGE_H
 #define BENCH_DAMAGE_H
 
@@ -9,16 +9,16 @@
 namespace bench {
 
 enum class Damage {
-  newlines, // a line break between any two tags
-  swapped,  // in each record two neighbouring elements in each other's place
-  missing,  // in each call an element missing that is always written
-  repeated  // in each record one element twice
+  newlines, // a line break between any two elements
+  swapped,  // two adjacent elements swapped in each record
+  missing,  // an element that is always written missing from each call
+  repeated  // one element repeated in each record
 };
 
 /// @param message a list response whose texts hold no markup
 /// @param alwaysWritten the names of a call's elements that are never left out
-/// @return the message with that damage in every record, at places that are random but always the
-///         same
+/// @return the message with that damage in every record, at random places that are the same in
+///         every run
 std::string damaged(std::string const& message, Damage damage,
                     std::vector<std::string_view> const& alwaysWritten);
 

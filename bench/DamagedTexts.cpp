@@ -10,7 +10,7 @@
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
-#include "records/RecordComparison.h"
+#include "members/Equality.h"
 
 namespace bench {
 
@@ -25,10 +25,10 @@ std::map<std::string, Damage> const DAMAGES = {{"newlines", Damage::newlines},
 template <class Record>
 std::vector<std::string_view> alwaysWritten() {
   std::vector<std::string_view> names;
-  forEachField<Record>([&](auto const& field) {
-    using Value = std::decay_t<decltype(std::declval<Record&>().*field.member)>;
+  forEachElement<Record>([&](auto const& member) {
+    using Value = typename std::decay_t<decltype(member)>::Value;
     if (!std::is_same_v<Value, std::string>)
-      names.push_back(field.name);
+      names.push_back(member.element);
   });
   return names;
 }
@@ -53,7 +53,8 @@ void add(std::string const& how, char const* who) {
         state, name, [&] { return decoder.decode(); },
         [&] {
           bool const isDamaged = message != sampleOf<Kind>(COMPARED_SIZE).message;
-          return isDamaged && decoder.decode() == OracleDecoder<Kind>{message}.decode();
+          return isDamaged &&
+                 members::equal(decoder.decode(), OracleDecoder<Kind>{message}.decode());
         });
   });
 }

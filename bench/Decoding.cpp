@@ -2,12 +2,12 @@
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
+#include "members/Equality.h"
 #include "peers/ExpatPeer.h"
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
 #include "peers/TinyXml2Peer.h"
-#include "records/RecordComparison.h"
 
 namespace bench {
 
@@ -23,7 +23,7 @@ void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
     auto decoder = decoderOf(sample);
     timeProven<destruction>(
         state, name, [&] { return decoder.decode(); },
-        [&] { return decoder.decode() == sample.decoded; });
+        [&] { return members::equal(decoder.decode(), sample.decoded); });
     state.counters["message"] = static_cast<double>(sample.message.size());
   });
 }
@@ -31,13 +31,13 @@ void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
 template <class Kind>
 void addKind(std::size_t size) {
   using S = Sample<Kind>;
-  // Made before anything is timed: a log that is made on a used heap lies scattered in it.
+  // Created before anything is timed: on a used heap, a log would be scattered.
   if (size != LARGE)
     sampleOf<Kind>(size);
   add<Kind>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
   add<Kind>("handle", size, [](S const& s) { return LibraryHandleDecoder<Kind>{s.message}; });
   add<Kind>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });
-  if (size == COMPARED_SIZE || size == LARGE) { // what the growth compares
+  if (size == COMPARED_SIZE || size == LARGE) { // the sizes that the growth figures compare
     constexpr auto leftOut = Destruction::leftOut;
     add<Kind, leftOut>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
     add<Kind, leftOut>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });

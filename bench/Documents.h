@@ -1,5 +1,5 @@
 // The messages as well-formed XML. A list response has no root, an unclosed method tag and raw
-// ampersands; the strict parsers need the same contents with a root and with everything escaped.
+// ampersands; strict parsers need the same contents with a root and with everything escaped.
 #ifndef BENCH_DOCUMENTS_H
 #define BENCH_DOCUMENTS_H
 
@@ -17,10 +17,10 @@ inline void writeElement(std::string& out, std::string const& name, std::string 
 
 template <class Record>
 void writeFields(std::string& out, Record const& record) {
-  forEachField<Record>([&](auto const& field) {
-    auto const& value = record.*field.member;
+  forEachElement<Record>([&](auto const& member) {
+    auto const& value = member.in(record);
     if (isWritten(value))
-      writeElement(out, std::string(field.name), textOf(value));
+      writeElement(out, std::string(member.element), textOf(value));
   });
 }
 

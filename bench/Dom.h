@@ -1,8 +1,8 @@
-// Fills records from the tree that a parser has built; the same walk for each of them.
+// Fills records from the tree that a parser has built; one walk for all parsers.
 //
-// A Node is a pointer-like adaptor: it tests as false behind the last sibling and has is(name),
-// text(), next() and child(). The walk expects the elements in the order of writing, which is the
-// fastest way through a tree: one comparison for each. Whatever stands elsewhere is found by name.
+// A Node is a pointer-like adaptor: it is false after the last sibling and has is(name), text(),
+// next() and child(). The walk expects the elements in the order of the document, which is the
+// fastest way through a tree: one comparison for each. Elements out of order are found by name.
 #ifndef BENCH_DOM_H
 #define BENCH_DOM_H
 
@@ -13,20 +13,20 @@ namespace bench::dom {
 
 template <class Node, class Record>
 void assignByName(Node node, Record& record) {
-  forEachField<Record>([&](auto const& field) {
-    if (field.read == Read::stored && node.is(field.name))
-      assign(record.*field.member, node.text());
+  forEachElement<Record>([&](auto const& member) {
+    if (isStored(member) && node.is(member.element))
+      assign(member.in(record), node.text());
   });
 }
 
-/// @return the first sibling that did not stand where it is expected
+/// @return the first sibling that is not the expected element
 template <class Node, class Record>
 Node readInOrder(Node node, Record& record) {
-  forEachField<Record>([&](auto const& field) {
-    if (!node || !node.is(field.name))
+  forEachElement<Record>([&](auto const& member) {
+    if (!node || !node.is(member.element))
       return;
-    if (field.read == Read::stored)
-      assign(record.*field.member, node.text());
+    if (isStored(member))
+      assign(member.in(record), node.text());
     node = node.next();
   });
   return node;

@@ -5,11 +5,11 @@
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
+#include "members/Equality.h"
 #include "peers/LibxmlPeer.h"
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
-#include "records/RecordComparison.h"
 
 namespace bench {
 
@@ -34,12 +34,12 @@ template <class Kind>
 void addKind(std::size_t size) {
   using S = Sample<Kind>;
   auto const sameText = [](std::string const& text, S const& s) { return text == s.message; };
-  // A document of a peer's need not have the bytes of ours, but has to hold the same.
+  // A peer's document may have other bytes than ours, but has to hold the same records.
   auto const sameDocument = [](std::string_view text, S const& s) {
-    return RapidXmlDecoder<Kind>(std::string(text)).decode() == s.decoded;
+    return members::equal(RapidXmlDecoder<Kind>(std::string(text)).decode(), s.decoded);
   };
   auto const sameBinary = [](std::string const& binary, S const& s) {
-    return ProtobufDecoder<Kind>(binary).decode() == s.decoded;
+    return members::equal(ProtobufDecoder<Kind>(binary).decode(), s.decoded);
   };
   add<Kind>(
       "library", size, [](S const& s) { return LibraryEncoder<Kind>{s.log}; }, sameText);

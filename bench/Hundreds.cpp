@@ -1,12 +1,11 @@
 // Decoding a large log's entries in logs of 100, one after the other. None is destroyed before the
-// last is decoded, so as much memory is gone through as for the large log: the two differ in the
-// size of the log alone.
+// last is decoded, so they touch as much memory as the large log: only the size of a log differs.
 #include <string>
 #include <vector>
 
 #include "Samples.h"
 #include "Timing.h"
-#include "records/RecordComparison.h"
+#include "members/Equality.h"
 
 namespace bench {
 
@@ -37,7 +36,7 @@ struct Hundreds {
     Log joined;
     for (auto const& log : decode())
       joined.insert(joined.end(), log.begin(), log.end());
-    return joined == sampleOf<Kind>(LARGE).decoded;
+    return members::equal(joined, sampleOf<Kind>(LARGE).decoded);
   }
 
   std::vector<std::string> messages;

@@ -1,4 +1,4 @@
-// Logs as they are in use: the same on every machine and in every run.
+// Realistic logs: the same on every machine and in every run.
 #include "Logs.h"
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Logs as they are in use: the same on every machine and in every run.
+// Realistic logs: the same on every machine and in every run.
 #ifndef BENCH_LOGS_H
 #define BENCH_LOGS_H
 
@@ -8,9 +8,9 @@
 
 namespace bench {
 
-/// A log of so many entries of 1 to 5 calls each. About 80 % of the entries are named and 20 % have
-/// a picture; about 20 % of the calls have a connected party and 5 % were deflected. Some names are
-/// not ASCII, some hold "&".
+/// A log of that many entries with 1 to 5 calls each. About 80 % of the entries are named and 20 %
+/// have a picture; about 20 % of the calls have a connected party and 5 % were deflected. Some
+/// names are not ASCII, some hold "&".
 template <class Kind>
 typename Kind::Log makeLog(std::size_t entries);
 

@@ -1,4 +1,4 @@
-// The library, the plain oracle and the bounds, in the form that the peers have.
+// The library, the plain oracle and the bounds, with the interface of the peers.
 #ifndef BENCH_OWN_H
 #define BENCH_OWN_H
 
@@ -18,7 +18,7 @@ struct LibraryDecoder {
   std::string const& message;
 };
 
-/// With the handle, which is searched for from the start of the message.
+/// With the handle, which the library searches for from the start of the message.
 template <class Kind>
 struct LibraryHandleDecoder {
   typename Kind::Log decode() {
@@ -40,7 +40,7 @@ struct OracleDecoder {
   std::string const& message;
 };
 
-/// The bound of decoding: the records have to be made, whoever makes them.
+/// The lower bound of decoding: any decoder has to create the records.
 template <class Kind>
 struct DeepCopy {
   typename Kind::Log decode() { return decoded; }
@@ -59,8 +59,8 @@ struct OracleEncoder {
   typename Kind::Log const& log;
 };
 
-/// The bound of encoding: the bytes have to be put somewhere, whoever puts them. The string keeps
-/// its memory, so this is a memcpy.
+/// The lower bound of encoding: any encoder has to store the bytes. The string keeps its memory, so
+/// this is a memcpy.
 template <class Kind>
 class CopyOfMessage {
 public:

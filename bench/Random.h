@@ -1,4 +1,5 @@
-// A small random generator of our own, so that a seed gives the same numbers on every machine.
+// A small random generator: unlike those of the standard library, a seed gives the same numbers on
+// every machine.
 #ifndef BENCH_RANDOM_H
 #define BENCH_RANDOM_H
 

@@ -14,10 +14,11 @@ namespace bench {
 
 template <class Kind>
 struct Sample {
-  typename Kind::Log log;     // what is encoded
-  std::string message;        // the list response that it is encoded to
-  typename Kind::Log decoded; // what the oracle decodes from the message: the log, less the losses
-  std::string document;       // the same contents as well-formed XML, for the strict parsers
+  typename Kind::Log log; // what is encoded
+  std::string message;    // the list response that it is encoded to
+  typename Kind::Log
+      decoded; // what the oracle decodes from the message: the log without what reading drops
+  std::string document; // the same contents as well-formed XML, for the strict parsers
 };
 
 template <class Kind>

@@ -105,7 +105,7 @@ void addRecognition(std::string const& what, std::string const& which, std::size
 }
 
 void addRecognitionOfEachMethod() {
-  // In the order in which the methods are looked for; the last is not among them.
+  // In the order of the search for a method; the last is unknown.
   std::string const* const methods[] = {&Helper::GETMISSEDCALLLIST_XML,
                                         &Helper::SETMISSEDCALLLISTASVIEWED_XML,
                                         &Helper::DELETEMISSEDCALL_XML,
@@ -146,7 +146,7 @@ void addRecognitionInLargeMessages() {
 
 template <class Kind>
 void addNotification() {
-  // An entry of the middle size.
+  // An entry of medium size.
   auto const& log = sampleOf<Kind>(COMPARED_SIZE).log;
   auto const* item = &log.front();
   for (auto const& candidate : log)

@@ -12,7 +12,7 @@ namespace {
 
 bool wrong = false;
 
-// Of large logs a single operation makes a round, and a few rounds must do.
+// A round of a large log is a single operation, and there are only a few rounds.
 constexpr int LARGE_ROUNDS = 7;
 
 double least(std::vector<double> const& times) {

@@ -1,5 +1,5 @@
-// Registers the timing of an operation under a name of the form what/kind/size/who. Before it is
-// timed for the first time, the operation has to prove that its result is right.
+// Registers the timing of an operation under a name of the form what/kind/size/who. Its result is
+// checked before it is timed for the first time.
 #ifndef BENCH_TIMING_H
 #define BENCH_TIMING_H
 
@@ -14,8 +14,8 @@ namespace bench {
 using Run = std::function<void(benchmark::State&)>;
 
 inline constexpr std::size_t SIZES[] = {1, 10, 100, 1000, 20000};
-inline constexpr std::size_t LARGE = 20000; // costs seconds and is made ready only when it runs
-inline constexpr std::size_t COMPARED_SIZE = 100; // that of everything that has one size only
+inline constexpr std::size_t LARGE = 20000;       // takes seconds to prepare, so only when it runs
+inline constexpr std::size_t COMPARED_SIZE = 100; // for everything that has a single size
 
 std::string nameOf(std::string const& what, std::string const& kind, std::size_t entries,
                    std::string const& who);
@@ -23,18 +23,18 @@ std::string nameOf(std::string const& what, std::string const& kind, std::size_t
 benchmark::internal::Benchmark* registerTiming(std::string const& name, std::size_t entries,
                                                Run run);
 
-/// Asks check() whether the result of the benchmark of this name is right, the first time that it
-/// runs. A wrong result ends the benchmark and makes the program fail.
+/// Calls check() the first time that the benchmark of this name runs. A wrong result ends the
+/// benchmark and makes the program fail.
 bool proven(benchmark::State& state, std::string const& name, std::function<bool()> const& check);
 
 /// Whether any result was wrong.
 bool anyWrong();
 
-/// Whether destroying an operation's result counts as a part of it.
+/// Whether the time of an operation includes the destruction of its result.
 enum class Destruction { counted, leftOut };
 
-/// Times operation(), which has to prove itself by check(). Its first run is not timed, so that the
-/// caches are in the state that repeating it gives; a large log runs only once in a round.
+/// Times operation() if check() finds its result right. The first run is not timed: it warms the
+/// caches, which matters as a large log runs only once in a round.
 template <Destruction destruction = Destruction::counted, class Operation>
 void timeProven(benchmark::State& state, std::string const& name, Operation operation,
                 std::function<bool()> const& check) {

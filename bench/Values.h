@@ -2,38 +2,13 @@
 #ifndef BENCH_VALUES_H
 #define BENCH_VALUES_H
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "CallLogItems.h"
+#include "members/Enumerations.h"
 
 namespace bench {
-
-/// wordsOf<Enum>: the words in the order of the enumeration's values; fallbackOf<Enum>: the member
-/// that an unknown word stands for.
-template <class Enum>
-inline constexpr std::array<std::string_view, 0> wordsOf{};
-template <class Enum>
-inline constexpr Enum fallbackOf{};
-
-template <>
-inline constexpr std::array<std::string_view, 5> wordsOf<NumberType::NT> = {
-    "NO_ICON", "PRIVATE", "BUSINESS1", "BUSINESS2", "MOBILE"};
-template <>
-inline constexpr std::array<std::string_view, 3> wordsOf<CallLogEntryEvent::_TFormat> = {
-    "FORM_24", "FORM_AM", "FORM_PM"};
-template <>
-inline constexpr std::array<std::string_view, 3> wordsOf<CallLogEntryEvent::_PresentationValue> = {
-    "NOT_AVAILABLE", "ALLOWED", "NOT_ALLOWED"};
-template <>
-inline constexpr std::array<std::string_view, 7> wordsOf<CallLogEntryEvent::_LogTarget> = {
-    "IN_ANSWERED",  "IN_NO_ANSWER",  "IN_BUSY", "IN_GROUP_MISSED",
-    "OUT_ANSWERED", "OUT_NO_ANSWER", "OUT_BUSY"};
-template <>
-inline constexpr CallLogEntryEvent::_LogTarget fallbackOf<CallLogEntryEvent::_LogTarget> =
-    CallLogEntryEvent::OUT_BUSY;
 
 inline void assign(std::string& field, std::string_view text) {
   field.assign(text);
@@ -43,12 +18,12 @@ inline void assign(bool& field, std::string_view text) {
   field = text == "True";
 }
 
+/// A word that names no member leaves the field at its value, which is the default in a new record.
 template <class Enum>
 inline void assign(Enum& field, std::string_view text) {
-  field = fallbackOf<Enum>;
-  for (std::size_t value = 0; value < wordsOf<Enum>.size(); ++value)
-    if (text == wordsOf<Enum>[value]) {
-      field = static_cast<Enum>(value);
+  for (auto const& enumerator : members::enumerators<Enum>)
+    if (text == enumerator.name) {
+      field = enumerator.value;
       return;
     }
 }
@@ -62,6 +37,16 @@ inline bool isWritten(Value) {
   return true;
 }
 
+/// Whether the values of an enumeration's members count up from 0, so that they index the list.
+template <class Enum>
+constexpr bool countsFromZero() {
+  std::size_t expected = 0;
+  for (auto const& enumerator : members::enumerators<Enum>)
+    if (static_cast<std::size_t>(enumerator.value) != expected++)
+      return false;
+  return true;
+}
+
 // All NUL-terminated.
 inline char const* textOf(std::string const& field) {
   return field.c_str();
@@ -71,10 +56,10 @@ inline char const* textOf(bool field) {
 }
 template <class Enum>
 inline char const* textOf(Enum field) {
+  static_assert(countsFromZero<Enum>());
+  auto const& enumerators = members::enumerators<Enum>;
   auto const value = static_cast<std::size_t>(field);
-  auto const& words = wordsOf<Enum>;
-  auto const fallback = static_cast<std::size_t>(fallbackOf<Enum>);
-  return words[value < words.size() ? value : fallback].data();
+  return value < enumerators.size() ? enumerators[value].name.data() : "";
 }
 
 } // namespace bench

@@ -1,4 +1,4 @@
-"""The figures that matter: ratios of the best times, with their targets.
+"""The main figures: ratios of the best times, with their targets.
 
 A benchmark is named what/kind/size/who. Its time is the least of its rounds: noise only ever adds.
 """

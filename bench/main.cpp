@@ -1,4 +1,4 @@
-// The benchmarks' program: options and output are Google Benchmark's, see docs/performance.md.
+// Runs the benchmarks. Options and output are Google Benchmark's, see docs/performance.md.
 #include <limits>
 
 #include <malloc.h>
@@ -9,8 +9,8 @@
 
 namespace {
 
-// Big blocks from the heap, which never shrinks: otherwise each large result is mapped and unmapped
-// anew, and the timings are those of page faults.
+// Takes large blocks from the heap, and never shrinks it. Otherwise each large result would be
+// mapped and unmapped, and page faults would dominate the timings.
 bool keepMemory() {
   return mallopt(M_MMAP_MAX, 0) == 1 &&
          mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max()) == 1 &&

@@ -35,7 +35,7 @@ def machine(run):
 
 
 def replace_sections(text, sections):
-    """Replaces what stands between <!-- NAME --> and <!-- end --> for each section."""
+    """Replaces the text between <!-- NAME --> and <!-- end --> for each section."""
     for name, content in sections.items():
         pattern = rf"(<!-- {re.escape(name)} -->\n).*?(<!-- end -->)"
         text, count = re.subn(pattern, lambda found: f"{found[1]}{content}\n{found[2]}", text,

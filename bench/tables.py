@@ -2,7 +2,7 @@
 
 from figures import FIGURES, KINDS, NAMES, SIZES
 
-# what of the benchmark names: what the table calls it
+# The first part of a benchmark's name: its title in the table.
 SMALL = {
     "request": "requests to the service",
     "store": "requests to the store",

@@ -1,4 +1,4 @@
-// The client's side of the road: it asks for one log, and keeps it up to date by notifications.
+// The client's side: it asks for one log, and keeps it up to date by notifications.
 #ifndef EXAMPLES_CLIENT_H
 #define EXAMPLES_CLIENT_H
 
@@ -19,7 +19,7 @@ public:
   void readAnswer(std::string const& answer) { Kind::readLog(answer, entries, currentHandle); }
 
   /// Reads a notification of this log: the entry that changed goes to the front.
-  /// @return false when the message is another one; the log then stays as it is
+  /// @return false for any other message; the log then stays as it is
   bool readNotification(std::string const& message) {
     if (JournalServiceHelper::getMethodFromXMLMsg(message) != Kind::updateCode)
       return false;
@@ -49,7 +49,7 @@ private:
   }
 
   void readHandle(std::string const& message) {
-    Log none; // outside a list response there is no Entry, only the handle to read
+    Log none; // a notification has no Entry, only the handle is read
     Kind::readLog(message, none, currentHandle);
   }
 

@@ -1,5 +1,5 @@
-// The four call logs side by side: which records, words and operations belong to which log. The
-// rest of the example is written once, as templates that take one of these as their Kind.
+// The four call logs side by side: the records, names and operations of each. The rest of the
+// example is written once, as templates with one of these as their Kind.
 #ifndef EXAMPLES_LOGKINDS_H
 #define EXAMPLES_LOGKINDS_H
 
@@ -9,11 +9,10 @@
 #include "JournalServiceHelper.h"
 
 // Kind::Item      one entry of the log, a party; Kind::Call one of its calls; Kind::Log all entries
-// Kind::listCode  what getMethodFromXMLMsg says of the list request, and of its answer
-// Kind::updateCode  what it says of the notification
-// Kind::unread  what messages carry of a call that reading them passes over
-// Kind::escapesConnectedNames  whether messages carry a call's connected names escaped
-// Kind::hasPresentations  whether a call says what may be shown of it, and how its time is meant
+// Kind::listCode  what getMethodFromXMLMsg returns for the list request, and for its answer
+// Kind::updateCode  what it returns for the notification
+// Kind::escapesConnectedNames  whether a call's connected names are escaped in messages
+// Kind::hasPresentations  whether a call has presentation values and a time format
 
 struct Missed {
   using Item = MissedCallItem;
@@ -21,7 +20,6 @@ struct Missed {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Missed";
   static constexpr char const* sample = "missed.xml";
-  static constexpr char const* unread = "nothing";
   static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETMISSEDCALLLIST;
@@ -43,7 +41,6 @@ struct Dialled {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Dialled";
   static constexpr char const* sample = "dialled.xml";
-  static constexpr char const* unread = "name presentations";
   static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETDIALLEDCALLLIST;
@@ -65,7 +62,6 @@ struct Received {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Received";
   static constexpr char const* sample = "received.xml";
-  static constexpr char const* unread = "connected names";
   static constexpr bool escapesConnectedNames = false;
   static constexpr bool hasPresentations = true;
   static constexpr auto listCode = JournalServiceHelper::GETRECEIVEDCALLLIST;
@@ -87,7 +83,6 @@ struct Forwarded {
   using Log = std::deque<Item>;
   static constexpr char const* name = "Forwarded";
   static constexpr char const* sample = "forwarded.xml";
-  static constexpr char const* unread = "connected names";
   static constexpr bool escapesConnectedNames = true;
   static constexpr bool hasPresentations = false;
   static constexpr auto listCode = JournalServiceHelper::GETFORWARDEDCALLLIST;

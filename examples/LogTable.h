@@ -9,7 +9,7 @@
 #include "LogKinds.h"
 #include "Table.h"
 
-/// A column: what it shows of an entry, or else of the entry's latest call, which stands in front.
+/// A column: what it shows of an entry, or else of the entry's latest call, the first in the list.
 /// The widths of one log's columns, with two blanks before each, add up to less than 120.
 template <class Kind>
 struct LogColumn {

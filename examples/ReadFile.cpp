@@ -1,4 +1,4 @@
-// Reads a file block by block, so that an endless one is noticed too.
+// Reads a file block by block, so that an endless one is detected.
 #include "ReadFile.h"
 
 #include <array>

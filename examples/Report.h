@@ -1,18 +1,18 @@
-// Tells what happens on the road and what of it differs from what it should be.
+// Prints what happens in the round trip, and which steps differ from what they should be.
 #ifndef EXAMPLES_REPORT_H
 #define EXAMPLES_REPORT_H
 
 #include <ostream>
 #include <string>
 
-/// Prints the road's steps, and counts those that differ from what they should be.
+/// Prints the steps, and counts those that differ from what they should be.
 class Report {
 public:
-  /// @param steps takes the steps
-  /// @param differences takes a line for each step that differs
+  /// @param steps receives the steps
+  /// @param differences receives a line for each step that differs
   Report(std::ostream& steps, std::ostream& differences) : out(steps), err(differences) {}
 
-  /// Begins a section; what differs in it is reported under its title.
+  /// Begins a section; differences in it are reported under its title.
   void section(std::string const& title) {
     current = title;
     out << '\n' << title << '\n';
@@ -23,7 +23,7 @@ public:
     out << "  " << padded(who, 9) << padded(operation, 33) << outcome << '\n';
   }
 
-  /// Remembers a step that differs and says which on the stream for differences.
+  /// Counts the check, and reports the step if it differs.
   void check(bool asItShouldBe, std::string const& step) {
     ++checks;
     if (asItShouldBe)

@@ -1,4 +1,4 @@
-// The service's side of the road: it holds one log, answers requests and tells of changes.
+// The service's side: it holds one log, answers requests and notifies of changes.
 #ifndef EXAMPLES_SERVICE_H
 #define EXAMPLES_SERVICE_H
 
@@ -15,7 +15,7 @@ public:
   /// @param stored the log in the form of a list response
   explicit Service(std::string const& stored) { Kind::readLog(stored, entries, currentHandle); }
 
-  /// Answers a request with the whole log; any other request than this log's with a failure.
+  /// Answers a request for this log with the whole log, and any other request with a failure.
   std::string answer(std::string const& request) const {
     if (JournalServiceHelper::getMethodFromXMLMsg(request) != Kind::listCode)
       return JournalServiceHelper::createXMLField(JournalServiceHelper::VALUE,
@@ -23,7 +23,7 @@ public:
     return Kind::answer(entries, currentHandle);
   }
 
-  /// Takes down another call of an entry's party, which moves the entry to the front of the log.
+  /// Adds another call of an entry's party, which moves the entry to the front of the log.
   /// @return the notification for the observers
   std::string addCall(typename Log::size_type index, Call const& call) {
     typename Kind::Item item = entries.at(index);

@@ -1,4 +1,4 @@
-// Lays out a table: how wide a UTF-8 text is on a terminal, and the padding that follows from it.
+// Lays out a table: measures the width of UTF-8 texts on a terminal, and pads them.
 #include "Table.h"
 
 #include <algorithm>
@@ -22,23 +22,23 @@ bool isIn(Range const (&ranges)[count], char32_t c) {
                      [c](Range const& range) { return range.first <= c && c <= range.last; });
 }
 
-// Unicode's control characters, line separators and marks that turn the writing direction.
+// Unicode's control characters, line separators and marks that change the writing direction.
 constexpr Range controls[] = {{0x0000, 0x001F}, {0x007F, 0x009F},  {0x061C, 0x061C},
                               {0x200B, 0x200F}, {0x2028, 0x202E},  {0x2060, 0x206F},
                               {0xFEFF, 0xFEFF}, {0xE0000, 0xE007F}};
 
-// The common marks that stand on the character before them.
+// The common marks that combine with the character before them.
 constexpr Range combining[] = {{0x0300, 0x036F}, {0x0483, 0x0489}, {0x0591, 0x05BD},
                                {0x064B, 0x065F}, {0x1AB0, 0x1AFF}, {0x1DC0, 0x1DFF},
                                {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
 
-// The scripts and pictures that take two columns.
+// The scripts and symbols that take two columns.
 constexpr Range wide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0xA4CF},
                           {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},
                           {0xFF00, 0xFF60},   {0xFFE0, 0xFFE6},   {0x1F300, 0x1F64F},
                           {0x1F680, 0x1F6FF}, {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
 
-/// One character of a text: its code point and length, or one byte that is no UTF-8.
+/// One character of a text: its code point and length, or one byte of invalid UTF-8.
 struct Character {
   bool valid;
   char32_t code;
@@ -91,7 +91,7 @@ std::size_t widthOf(Character const& character) {
 
 Cell fitCell(std::string const& text, std::size_t most) {
   Cell cell;
-  std::size_t cutSize = 0; // what of the cell leaves a column for the ellipsis
+  std::size_t cutSize = 0; // how much of the cell leaves a column for the ellipsis
   std::size_t cutWidth = 0;
   for (std::size_t at = 0; at < text.size();) {
     Character const character = characterAt(text, at);

@@ -1,5 +1,4 @@
-// A table for people: columns line up whatever script the texts are in, and no text can upset the
-// terminal.
+// A table for people: columns line up in any script, and no text can control the terminal.
 #ifndef EXAMPLES_TABLE_H
 #define EXAMPLES_TABLE_H
 
@@ -8,14 +7,14 @@
 #include <string>
 #include <vector>
 
-/// A text made fit for a terminal, with the columns that it takes there.
+/// A text that is safe to print, with its width in columns of the terminal.
 struct Cell {
   std::string text;
   std::size_t width = 0;
 };
 
-/// Makes a UTF-8 text fit for a terminal: control characters and bytes that are no UTF-8 become
-/// U+FFFD, and what is wider than `most` columns ends in an ellipsis.
+/// Makes a UTF-8 text safe to print: control characters and invalid UTF-8 become U+FFFD, and a text
+/// wider than `most` columns ends in an ellipsis.
 Cell fitCell(std::string const& text, std::size_t most);
 
 class Table {

@@ -1,5 +1,5 @@
-// Plays the road of the call logs between a client and the service, or prints a list message of
-// your own. Start reading at playRoad in Road.cpp.
+// Plays the round trip of the call logs between a client and the service, or prints a list message
+// of your own. Start reading at playScenario in Scenario.cpp.
 #include <exception>
 #include <iostream>
 #include <string>
@@ -8,7 +8,7 @@
 #include "LogTable.h"
 #include "ReadFile.h"
 #include "Report.h"
-#include "Road.h"
+#include "Scenario.h"
 
 namespace {
 
@@ -21,14 +21,14 @@ enum ExitCode : int {
 };
 
 char const* const usage =
-    R"(usage: roundtrip                 play every step with the sample logs
+    R"(usage: roundtrip                 play the round trip with the sample logs
        roundtrip --samples DIR   play it with missed.xml, dialled.xml, received.xml and
                                  forwarded.xml of that folder
        roundtrip FILE            print the call log in a list message of your own
        roundtrip --help          print this
 
 exit code: 0  all went well
-           1  a step of the road differs from what it should be
+           1  a step differs from what it should be
            2  wrong use, or a file cannot be read
            3  FILE is no list message or holds no entry
            4  the output cannot be written
@@ -41,14 +41,14 @@ ExitCode complain(ExitCode code, std::string const& text) {
 
 ExitCode playSamples(std::string const& folder) {
   Report report(std::cout, std::cerr);
-  std::cout << "Four call logs on their road between a client and the service\n";
-  playRoad(folder, report);
+  std::cout << "Round trip of the four call logs between a client and the service\n";
+  playScenario(folder, report);
   std::cout << '\n'
             << report.checkCount() << " checks, " << report.differenceCount() << " differ\n";
   return report.differenceCount() == 0 ? OK : STEP_DIFFERS;
 }
 
-/// Says what of the message could not be read.
+/// Notes which parts of the message could not be read.
 void noteLosses(std::string const& message, std::size_t entryCount) {
   auto const end = message.find('\0');
   if (end != std::string::npos)

@@ -1,5 +1,5 @@
-// The walk that collects the remarks. Each part of a message has its rows; the walk remembers, for
-// every part that is open, how far down its rows it has come.
+// Collects the remarks in one walk over the nodes. Each part of a message has its rows; for every
+// open part, the walk keeps the index of the last row that it has met.
 #include "Check.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ std::string called(std::string_view name) {
   return std::string(name);
 }
 
-/// Most texts are written without escaping: what looks like markup in them is markup to readers.
+/// Most texts are written without escaping, so readers take markup in them for elements.
 bool holdsTag(std::string_view value) {
   Nodes const nodes = value.find('<') == std::string_view::npos ? Nodes() : scan(value);
   return std::any_of(nodes.begin(), nodes.end(),
@@ -168,7 +168,7 @@ private:
                   "Schema " + quoted(node.value) + " is none of this format");
   }
 
-  /// Offsets are compared, as an empty piece has nothing between its tags.
+  /// An empty part has its close tag right behind its begin tag.
   void noteEmpty(Node const& node) {
     std::size_t const begin = node.offset + node.name.size() + 2;
     if (text.compare(begin, 2, "</") == 0)
@@ -189,14 +189,15 @@ private:
     for (std::size_t i = 0; i < rows.size() && part.closed; ++i)
       if (rows[i].count == Count::MUST && (part.seen >> i & 1) == 0)
         remarks.add(Topic::MISSING, part.name.empty() ? offset : part.offset,
-                    *rows[i].name + " is missing in " + describe(part.name));
+                    called(rows[i].name) + " is missing in " + describe(part.name));
   }
 
   static std::string describe(std::string_view part) {
     return part.empty() ? "the message" : "this " + called(part);
   }
 
-  /// @return what is known of the element where it stands, nullptr when it says nothing there
+  /// Remarks on an element that is unknown or in the wrong place.
+  /// @return its row; nullptr for an unknown element
   Row const* place(Node const& node) {
     Row const* const known = findElement(node.name);
     if (known == nullptr) {
@@ -208,7 +209,7 @@ private:
     if (part.rows->empty())
       return known;
     auto const row = std::find_if(part.rows->begin(), part.rows->end(),
-                                  [&](Row const& one) { return *one.name == node.name; });
+                                  [&](Row const& one) { return one.name == node.name; });
     if (row == part.rows->end()) {
       remarks.add(Topic::ORDER, node.offset,
                   called(node.name) + " does not belong in " + describe(part.name));
@@ -226,7 +227,7 @@ private:
                   called(node.name) + " is there again, readers take the first");
     else if (index < part.furthest)
       remarks.add(Topic::ORDER, node.offset,
-                  called(node.name) + " stands behind " + *(*part.rows)[part.furthest].name +
+                  called(node.name) + " is behind " + called((*part.rows)[part.furthest].name) +
                       ", writers write it in front");
     part.seen |= std::uint64_t{1} << index;
     part.furthest = std::max(part.furthest, index);

@@ -1,4 +1,4 @@
-// What sort of message a text is, from its method and the elements that are there.
+// Finds the kind of a message from its method and its elements.
 #include <algorithm>
 
 #include "Message.h"
@@ -13,7 +13,7 @@ bool has(Nodes const& nodes, std::string_view name) {
   });
 }
 
-/// The counter that recognition does not know is told by its tag, as its clients do.
+/// getMethodFromXMLMsg does not recognise one counter: it is identified by its tag.
 Method const* findMethodOf(J::MethodCode code, Nodes const& nodes) {
   if (Method const* const method = findMethod(code))
     return method;

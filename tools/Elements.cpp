@@ -1,65 +1,116 @@
 // The tables of elements and methods.
 #include "Elements.h"
 
+#include <map>
+#include <type_traits>
 #include <unordered_map>
+
+#include "members/Members.h"
 
 namespace {
 
 using J = JournalServiceHelper;
 
-std::string const handleName = "Handle";
+Value valueOf(std::string const&) {
+  return Value::TEXT;
+}
+Value valueOf(bool) {
+  return Value::FLAG;
+}
+Value valueOf(NumberType::NT) {
+  return Value::NUMBER_TYPE;
+}
+Value valueOf(CallLogEntryEvent::_TFormat) {
+  return Value::TIME_FORMAT;
+}
+Value valueOf(CallLogEntryEvent::_PresentationValue) {
+  return Value::PRESENTATION;
+}
+Value valueOf(CallLogEntryEvent::_LogTarget) {
+  return Value::TARGET_LOG;
+}
 
-constexpr unsigned missed = static_cast<unsigned>(Log::MISSED);
-constexpr unsigned dialled = static_cast<unsigned>(Log::DIALLED);
-constexpr unsigned received = static_cast<unsigned>(Log::RECEIVED);
-constexpr unsigned forwarded = static_cast<unsigned>(Log::FORWARDED);
-constexpr unsigned all = missed | dialled | received | forwarded;
+/// The row of a record's element. Writers leave out only empty texts.
+template <class Record>
+Row rowOf(std::string_view element) {
+  Row row = {J::LOGLIST, Value::PART, Count::MUST};
+  members::forEachField<Record>([&](auto const& member) {
+    Value const value = valueOf(member.in(Record()));
+    if (member.element == element)
+      row = {member.element, value, value == Value::TEXT ? Count::MAY : Count::MUST};
+  });
+  return row;
+}
 
-Row const entryTable[] = {
-    {&J::UNIQUEID, Value::TEXT, Count::MAY, all},
-    {&J::ENTRYID, Value::TEXT, Count::MAY, all},
-    {&J::SURNAME, Value::TEXT, Count::MAY, all},
-    {&J::FIRSTNAME, Value::TEXT, Count::MAY, all},
-    {&J::PICTURE, Value::TEXT, Count::MAY, all},
-    {&J::JSGROUPBY, Value::TEXT, Count::MAY, dialled},
-    {&J::VIEWED, Value::FLAG, Count::MUST, missed},
-    {&J::LOGLIST, Value::PART, Count::MUST, all},
+template <class Record>
+Record withAllTexts() {
+  Record record;
+  members::forEachField<Record>([&](auto const& member) {
+    if constexpr (std::is_same_v<std::decay_t<decltype(member.in(record))>, std::string>)
+      member.in(record) = "text";
+  });
+  return record;
+}
+
+struct EntryRows {
+  Rows entry;
+  Rows call;
 };
 
-Row const callTable[] = {
-    {&J::NUMBER, Value::TEXT, Count::MAY, all},
-    {&J::NUMBERTYPE, Value::NUMBER_TYPE, Count::MUST, all},
-    {&J::RESOLVEDNUMBER, Value::TEXT, Count::MAY, dialled},
-    {&J::CONNECTEDNUMBER, Value::TEXT, Count::MAY, all},
-    {&J::CONNECTEDNUMBERPRIORITY, Value::FLAG, Count::MUST, dialled},
-    {&J::CONNECTEDNUMBERTYPE, Value::NUMBER_TYPE, Count::MUST, all},
-    {&J::CONNECTEDSURNAME, Value::TEXT, Count::MAY, all},
-    {&J::CONNECTEDFIRSTNAME, Value::TEXT, Count::MAY, all},
-    {&J::TIMEDATE, Value::TEXT, Count::MAY, all},
-    {&J::DURATION, Value::TEXT, Count::MAY, dialled | received | forwarded},
-    {&J::TARGETLOG, Value::TARGET_LOG, Count::MUST, missed | dialled | received},
-    {&J::NUMBERPRESENTATION, Value::PRESENTATION, Count::MUST, missed | dialled | received},
-    {&J::NAMEPRESENTATION, Value::PRESENTATION, Count::MUST, missed | dialled | received},
-    {&J::DEFLECTNUMBERPRESENTATION, Value::PRESENTATION, Count::MUST, missed | received},
-    {&J::DEFLECTNUMBER, Value::TEXT, Count::MAY, missed | received},
-    {&J::DEFLECTNUMBERTYPE, Value::NUMBER_TYPE, Count::MUST, missed | received},
-    {&J::DEFLECTNAMEPRESENTATION, Value::PRESENTATION, Count::MUST, missed | received},
-    {&J::DEFLECTNAME, Value::TEXT, Count::MAY, missed | received},
-    {&J::TIMEFORMAT, Value::TIME_FORMAT, Count::MUST, missed | dialled | received},
+/// The library shows its order of writing: it writes an entry of which nothing is left out.
+template <class Entry>
+EntryRows rowsAsWritten(void (*write)(Entry const&, std::string&, bool)) {
+  using Call = members::CallOf<Entry>;
+  auto entry = withAllTexts<Entry>();
+  entry.callInfoList.push_back(withAllTexts<Call>());
+  std::string text;
+  write(entry, text, false);
+
+  EntryRows rows;
+  bool inCall = false;
+  for (auto at = text.find('<'); at != std::string::npos; at = text.find('<', at + 1)) {
+    auto const name = std::string_view(text).substr(at + 1, text.find('>', at) - at - 1);
+    if (name == J::ITEM)
+      inCall = true;
+    else if (name.front() != '/' && inCall)
+      rows.call.push_back(rowOf<Call>(name));
+    else if (name.front() != '/')
+      rows.entry.push_back(rowOf<Entry>(name));
+  }
+  return rows;
+}
+
+/// The elements of one log's entries; none when the log is unknown.
+EntryRows const& entryRowsOf(Log log) {
+  static std::map<Log, EntryRows> const rows = {
+      {Log::NONE, {}},
+      {Log::MISSED, rowsAsWritten(&J::createXMLMissedCallItemBody)},
+      {Log::DIALLED, rowsAsWritten(&J::createXMLDialledCallItemBody)},
+      {Log::RECEIVED, rowsAsWritten(&J::createXMLReceivedCallItemBody)},
+      {Log::FORWARDED, rowsAsWritten(&J::createXMLForwardedCallItemBody)}};
+  return rows.at(log);
+}
+
+/// The elements outside entries. Created on first use, when the library's constants exist.
+struct OuterRows {
+  Row method = {J::METHOD, Value::PART, Count::MUST};
+  Row schema = {J::SCHEMA, Value::PART, Count::MUST};
+  Row reason = {J::REASONFORMESSAGE, Value::REASON, Count::MUST};
+  Row entry = {J::ENTRY, Value::PART, Count::MANY};
+  Row item = {J::ITEM, Value::PART, Count::MANY};
+  Row toDelete = {J::UNIQUEIDTODELETE, Value::TEXT, Count::MAY};
+  Row action = {J::ACTIONTYPE, Value::ACTION, Count::MUST};
+  Row handle = {"Handle", Value::NUMBER, Count::MUST};
+  Row counter = {J::VALUE, Value::NUMBER, Count::MUST};
+  Row outcome = {J::VALUE, Value::OUTCOME, Count::MAY};
+  Row enabled = {J::CALL_LOG_ENABLED, Value::ENABLED, Count::MAY};
+  Row entryIds = {J::ENTRYID, Value::TEXT, Count::MANY};
 };
 
-Row const methodRow = {&J::METHOD, Value::PART, Count::MUST, all};
-Row const schemaRow = {&J::SCHEMA, Value::PART, Count::MUST, all};
-Row const reasonRow = {&J::REASONFORMESSAGE, Value::REASON, Count::MUST, all};
-Row const entryRow = {&J::ENTRY, Value::PART, Count::MANY, all};
-Row const itemRow = {&J::ITEM, Value::PART, Count::MANY, all};
-Row const toDeleteRow = {&J::UNIQUEIDTODELETE, Value::TEXT, Count::MAY, all};
-Row const actionRow = {&J::ACTIONTYPE, Value::ACTION, Count::MUST, all};
-Row const handleRow = {&handleName, Value::NUMBER, Count::MUST, all};
-Row const counterRow = {&J::VALUE, Value::NUMBER, Count::MUST, all};
-Row const outcomeRow = {&J::VALUE, Value::OUTCOME, Count::MAY, all};
-Row const enabledRow = {&J::CALL_LOG_ENABLED, Value::ENABLED, Count::MAY, all};
-Row const entryIdsRow = {&J::ENTRYID, Value::TEXT, Count::MANY, all};
+OuterRows const& outerRows() {
+  static OuterRows const rows;
+  return rows;
+}
 
 constexpr auto NONE = Count::MAY;
 
@@ -93,39 +144,33 @@ Method const methodTable[] = {
     {J::RECEIVEDCALLSUPDATE, &J::RECEIVEDCALLSUPDATE_XML, Role::NOTIFICATION, Log::RECEIVED, NONE},
     {J::FORWARDEDCALLSUPDATE, &J::FORWARDEDCALLSUPDATE_XML, Role::NOTIFICATION, Log::FORWARDED,
      NONE},
-    // Sent, but known by its tag alone: recognition gives the code of an unknown method.
+    // Sent, but getMethodFromXMLMsg does not recognise it: only its tag identifies it.
     {J::UNKNOWN_METHOD, &J::MISSEDGROUPCALLSUPDATE_XML, Role::COUNTER, Log::MISSED, NONE},
 };
 
-/// Without a log to go by, every log's elements are right and none is missed.
-template <std::size_t size>
-void append(Rows& rows, Row const (&table)[size], Log log) {
-  for (Row row : table) {
-    if (log == Log::NONE && row.count == Count::MUST)
-      row.count = Count::MAY;
-    if (log == Log::NONE || (row.logs & static_cast<unsigned>(log)) != 0)
-      rows.push_back(row);
-  }
+void append(Rows& rows, Rows const& more) {
+  rows.insert(rows.end(), more.begin(), more.end());
 }
 
 Rows rowsOfMessage(MessageKind kind, Log log) {
-  Rows rows{methodRow};
+  OuterRows const& outer = outerRows();
+  Rows rows{outer.method};
   switch (kind) {
   case MessageKind::REQUEST:
-    rows.push_back(entryIdsRow);
+    rows.push_back(outer.entryIds);
     break;
   case MessageKind::LIST_RESPONSE:
-    rows.insert(rows.end(), {entryRow, handleRow, outcomeRow});
+    append(rows, {outer.entry, outer.handle, outer.outcome});
     break;
   case MessageKind::NOTIFICATION:
-    append(rows, entryTable, log);
-    rows.insert(rows.end(), {toDeleteRow, actionRow, handleRow});
+    append(rows, entryRowsOf(log).entry);
+    append(rows, {outer.toDelete, outer.action, outer.handle});
     break;
   case MessageKind::COUNTER:
-    rows.push_back(counterRow);
+    rows.push_back(outer.counter);
     break;
   case MessageKind::STORE_REQUEST:
-    rows = {schemaRow};
+    rows = {outer.schema};
     break;
   default:
     rows.clear();
@@ -134,32 +179,33 @@ Rows rowsOfMessage(MessageKind kind, Log log) {
 }
 
 std::unordered_map<std::string_view, Row> allElements() {
+  OuterRows const& outer = outerRows();
+  Rows rows = {outer.method,   outer.schema, outer.reason, outer.entry,   outer.item,
+               outer.toDelete, outer.action, outer.handle, outer.outcome, outer.enabled};
+  for (Log const log : {Log::MISSED, Log::DIALLED, Log::RECEIVED, Log::FORWARDED}) {
+    append(rows, entryRowsOf(log).entry);
+    append(rows, entryRowsOf(log).call);
+  }
   std::unordered_map<std::string_view, Row> elements;
-  for (Row const& row : entryTable)
-    elements.emplace(*row.name, row);
-  for (Row const& row : callTable)
-    elements.emplace(*row.name, row);
-  for (Row const& row : {methodRow, schemaRow, reasonRow, entryRow, itemRow, toDeleteRow, actionRow,
-                         handleRow, outcomeRow, enabledRow})
-    elements.emplace(*row.name, row);
+  for (Row const& row : rows)
+    elements.emplace(row.name, row);
   return elements;
 }
 
 } // namespace
 
 Rows rowsOf(std::string_view part, MessageKind kind, Log log) {
-  Rows rows;
   if (part.empty())
-    rows = rowsOfMessage(kind, log);
-  else if (part == J::ENTRY)
-    append(rows, entryTable, log);
-  else if (part == J::ITEM)
-    append(rows, callTable, log);
-  else if (part == J::LOGLIST)
-    rows.push_back(itemRow);
-  else if (part == J::SCHEMA && kind == MessageKind::STORE_REQUEST)
-    rows.push_back(reasonRow);
-  return rows;
+    return rowsOfMessage(kind, log);
+  if (part == J::ENTRY)
+    return entryRowsOf(log).entry;
+  if (part == J::ITEM)
+    return entryRowsOf(log).call;
+  if (part == J::LOGLIST)
+    return {outerRows().item};
+  if (part == J::SCHEMA && kind == MessageKind::STORE_REQUEST)
+    return {outerRows().reason};
+  return {};
 }
 
 Row const* findElement(std::string_view name) {

@@ -8,7 +8,7 @@
 
 #include "JournalServiceHelper.h"
 
-enum class Log : unsigned { NONE = 0, MISSED = 1, DIALLED = 2, RECEIVED = 4, FORWARDED = 8 };
+enum class Log { NONE, MISSED, DIALLED, RECEIVED, FORWARDED };
 
 enum class MessageKind {
   REQUEST,
@@ -22,7 +22,7 @@ enum class MessageKind {
   OTHER
 };
 
-/// How the value of an element is to be understood. A PART holds elements.
+/// What the value of an element is. A PART holds elements.
 enum class Value {
   PART,
   TEXT,
@@ -42,19 +42,18 @@ enum class Value {
 enum class Count { MAY, MUST, MANY };
 
 struct Row {
-  std::string const* name;
+  std::string_view name;
   Value value;
   Count count;
-  unsigned logs; ///< the logs that have it, as bits of Log
 };
 
 using Rows = std::vector<Row>;
 
-/// @return the elements that the part of that name holds, in the writer's order; the empty name is
-/// the message itself. Empty where the format says nothing about them.
+/// @return the elements of the part of that name, in the order of writing; the empty name is the
+/// message itself. Empty when anything may be in it, or when the log is unknown.
 Rows rowsOf(std::string_view part, MessageKind kind, Log log);
 
-/// @return what is known of an element of that name, wherever it stands; nullptr for an unknown one
+/// @return the element of that name, whatever part it is in; nullptr for an unknown name
 Row const* findElement(std::string_view name);
 
 enum class Role { REQUEST, LIST, LAST_NUMBER, NOTIFICATION, COUNTER };

@@ -3,13 +3,45 @@
 #define TOOLS_FIELDS_H
 
 #include <cstddef>
-#include <iosfwd>
+#include <ostream>
+#include <string>
 
-#include "CallLogItems.h"
+#include "SafeText.h"
+#include "members/Enumerations.h"
+#include "members/Members.h"
 
-void printEntry(std::ostream& out, std::size_t number, MissedCallItem const& item);
-void printEntry(std::ostream& out, std::size_t number, DialledCallItem const& item);
-void printEntry(std::ostream& out, std::size_t number, ReceivedCallItem const& item);
-void printEntry(std::ostream& out, std::size_t number, ForwardedCallItem const& item);
+namespace fields {
+
+inline std::string wordOf(std::string const& text) {
+  return safeText(text);
+}
+inline std::string wordOf(bool flag) {
+  return flag ? "true" : "false";
+}
+template <class Enumeration>
+std::string wordOf(Enumeration value) {
+  return members::nameOf(value);
+}
+
+template <class Record>
+void print(std::ostream& out, char const* indentation, Record const& record) {
+  members::forEachField<Record>([&](auto const& member) {
+    if (member.travel != members::Travel::never)
+      out << indentation << member.name << ": " << wordOf(member.in(record)) << '\n';
+  });
+}
+
+} // namespace fields
+
+template <class Entry>
+void printEntry(std::ostream& out, std::size_t number, Entry const& entry) {
+  out << "  entry " << number << '\n';
+  fields::print(out, "    ", entry);
+  std::size_t calls = 0;
+  for (auto const& call : entry.callInfoList) {
+    out << "    call " << ++calls << '\n';
+    fields::print(out, "      ", call);
+  }
+}
 
 #endif

@@ -1,4 +1,4 @@
-// A message taken apart: its elements one after the other, and what sort of message it is.
+// A message split into its elements, and what kind of message it is.
 #ifndef TOOLS_MESSAGE_H
 #define TOOLS_MESSAGE_H
 
@@ -15,7 +15,7 @@ struct Node {
   enum class Kind : std::uint8_t {
     DECLARATION,
     PART,      ///< the begin of an element that holds elements
-    END,       ///< its end, or where it is taken to end
+    END,       ///< its end, or where it is assumed to end
     LEAF,      ///< an element with its value
     TAG,       ///< a begin tag without a close tag of its own
     CLOSE_TAG, ///< a close tag that closes nothing
@@ -24,7 +24,7 @@ struct Node {
   Kind kind = Kind::TEXT;
   std::uint8_t depth = 0;
   bool closed = true;       ///< of a PART: whether its close tag was found
-  bool reachesClose = true; ///< of a PART: whether one closes it for readers, be it another's
+  bool reachesClose = true; ///< of a PART: whether readers find a close tag, be it another part's
   std::string_view name;
   std::string_view value; ///< of a Schema: its name attribute
   std::size_t offset = 0;
@@ -32,11 +32,11 @@ struct Node {
 
 using Nodes = std::deque<Node>;
 
-/// Takes a text apart. Takes linear time and nests five deep at most, whatever the text: a part
-/// that begins again inside itself ends the one before, as readers do not nest either.
+/// Splits a text in linear time. Parts nest at most five deep: one that begins again inside itself
+/// ends the one before, as readers do not nest either.
 Nodes scan(std::string_view text);
 
-/// What sort of message it is.
+/// What kind of message it is.
 struct Subject {
   JournalServiceHelper::MethodCode code = JournalServiceHelper::UNKNOWN_METHOD;
   Method const* method = nullptr;

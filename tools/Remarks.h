@@ -1,4 +1,4 @@
-// What an integrator should know about a message that is not as writers write it.
+// Where a message differs from what writers write.
 #ifndef TOOLS_REMARKS_H
 #define TOOLS_REMARKS_H
 
@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// Sorts of remarks. Of each sort only the first few are kept, so that a damaged log stays
-/// readable.
+/// Topics of remarks. Only the first few of each are kept, so that the output for a damaged log
+/// stays readable.
 enum class Topic { NUL, METHOD, DECLARATION, TAGS, TEXT, ORDER, UNKNOWN, MISSING, VALUE, NUMBER };
 
 class Remarks {

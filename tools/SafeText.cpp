@@ -11,12 +11,12 @@ struct Range {
   std::uint32_t last;
 };
 
-// Characters that a terminal obeys instead of showing them.
+// Characters that control a terminal instead of being shown.
 constexpr Range unsafe[] = {{0x00, 0x1F},     {'\\', '\\'},     {0x7F, 0x9F},
                             {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
 
-// The form of a UTF-8 sequence by its length: its first byte, and the least character that needs
-// it.
+// The form of a UTF-8 sequence by its length: its first byte, and the smallest character of that
+// length.
 struct Form {
   unsigned char mask;
   unsigned char lead;

@@ -71,7 +71,7 @@ public:
 private:
   struct Part {
     std::size_t node;
-    std::size_t limit; ///< where its close tag stands; searches inside it end there
+    std::size_t limit; ///< where its close tag is; searches inside it end there
     bool hasClose;
   };
 
@@ -83,7 +83,7 @@ private:
     }
   }
 
-  /// @return where the first such close tag from there on stands, npos when none stands in the part
+  /// @return where the first such close tag is from there on; npos when there is none in the part
   std::size_t findClose(std::string_view name, std::size_t from) const {
     auto const found = closeTags.find(name);
     if (found == closeTags.end())
@@ -166,7 +166,7 @@ private:
     leave(at, closed);
   }
 
-  /// An element that cannot belong into a method that is never closed ends it.
+  /// The next element ends a method that is never closed.
   void leaveUnclosedMethod(std::size_t at) {
     if (!open.empty() && !open.back().hasClose && nodes[open.back().node].name == J::METHOD)
       leave(at, false);
@@ -195,7 +195,7 @@ private:
     done = close + tag.name.size() + 3;
   }
 
-  /// Readers see through unknown elements: they are a value only when no other tag is in them.
+  /// Readers ignore unknown tags, so an unknown element is a leaf only when it holds no other tag.
   void unknownElement(Tag const& tag, std::size_t at) {
     std::size_t const next = text.find('<', tag.end);
     Tag const close = next == npos ? Tag() : readTag(text, next);

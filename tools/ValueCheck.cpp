@@ -1,5 +1,5 @@
-// The library itself says what a value is read as: one that is not read back to the same text is
-// none that writers write.
+// The library decides: it reads each value and writes it again. Writers write only values that come
+// back as the same text.
 #include "ValueCheck.h"
 
 #include "ClientUtils.h"

@@ -6,8 +6,8 @@
 
 #include "Elements.h"
 
-/// @return what is to be said about a value as it stands in the bytes, and what it is read as;
-/// empty when it is one that writers write
+/// @param text the value as it is in the message
+/// @return what is wrong with it and what it is read as; empty when writers write such a value
 std::string judgeValue(Value value, std::string const& text);
 
 #endif

@@ -18,8 +18,8 @@
 
 namespace bench {
 
-/// Stores elements in a record, which mostly come in the order of writing: each is looked for from
-/// the one behind its predecessor on.
+/// Stores elements in a record. They mostly come in the list's order, so the search for each starts
+/// after its predecessor.
 template <class Record>
 class FieldSetter {
 public:
@@ -44,17 +44,17 @@ private:
 
   template <std::size_t index>
   static void setField(Record& record, std::string_view text) {
-    constexpr auto field = std::get<index>(fieldsOf<Record>);
-    if constexpr (field.read == Read::stored)
-      assign(record.*field.member, text);
+    constexpr auto member = std::get<index>(elementsOf<Record>);
+    if constexpr (isStored(member))
+      assign(member.in(record), text);
   }
 
   template <std::size_t... index>
   static constexpr std::array<Setter, sizeof...(index)> setters(std::index_sequence<index...>) {
-    return {Setter{std::get<index>(fieldsOf<Record>).name.data(), &setField<index>}...};
+    return {Setter{std::get<index>(elementsOf<Record>).element.data(), &setField<index>}...};
   }
 
-  static constexpr std::size_t SIZE = std::tuple_size_v<decltype(fieldsOf<Record>)>;
+  static constexpr std::size_t SIZE = std::tuple_size_v<decltype(elementsOf<Record>)>;
   static constexpr std::array<Setter, SIZE> SETTERS = setters(std::make_index_sequence<SIZE>());
 
   std::size_t expected_ = 0;
@@ -79,7 +79,7 @@ public:
   }
 
 private:
-  // The depth inside an element of each level: Log, Entry, its elements, Item, its elements.
+  // The depth inside each level: Log, Entry, its elements, Item, its elements.
   enum Depth : int { IN_ENTRY = 2, IN_ENTRY_FIELD = 3, IN_ITEM = 4, IN_ITEM_FIELD = 5 };
 
   static void XMLCALL started(void* self, XML_Char const* name, XML_Char const**) {
@@ -88,7 +88,7 @@ private:
   static void XMLCALL ended(void* self, XML_Char const* name) {
     static_cast<ExpatDecoder*>(self)->end(name);
   }
-  // In pieces: one for each entity and one for what stands between.
+  // Called for each entity, and for each text between them.
   static void XMLCALL texted(void* self, XML_Char const* text, int length) {
     static_cast<ExpatDecoder*>(self)->text_.append(text, static_cast<std::size_t>(length));
   }

@@ -1,4 +1,4 @@
-// libxml2's writer: streams the document into a buffer that is kept.
+// libxml2's writer: streams the document into a buffer that is reused.
 #ifndef BENCH_PEERS_LIBXMLPEER_H
 #define BENCH_PEERS_LIBXMLPEER_H
 
@@ -58,10 +58,10 @@ private:
 
   template <class Record>
   static void writeFields(xmlTextWriterPtr writer, Record const& record) {
-    forEachField<Record>([&](auto const& field) {
-      auto const& value = record.*field.member;
+    forEachElement<Record>([&](auto const& member) {
+      auto const& value = member.in(record);
       if (isWritten(value))
-        xmlTextWriterWriteElement(writer, raw(field.name.data()), raw(textOf(value)));
+        xmlTextWriterWriteElement(writer, raw(member.element.data()), raw(textOf(value)));
     });
   }
 

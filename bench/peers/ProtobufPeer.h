@@ -1,32 +1,51 @@
-// Protobuf: the same fields as a binary message, in the three ways that its message objects are
-// used: made for each operation, made for each on an arena, or kept from one to the next.
+// Protobuf: the same fields as a binary message. Its message objects are used in three ways:
+// created for each operation, created for each on an arena, or reused.
 #ifndef BENCH_PEERS_PROTOBUFPEER_H
 #define BENCH_PEERS_PROTOBUFPEER_H
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <google/protobuf/arena.h>
 
 #include "Kinds.h"
-#include "peers/ProtobufRecords.h"
+#include "LogConversion.h"
 
 namespace bench {
 
 namespace protobuf {
 
-inline pb::MissedLog messageOf(Missed) {
-  return {};
+/// Copies each text, so that the message keeps its memory.
+struct Copied {
+  static void take(std::string& field, std::string const& text) {
+    if (!text.empty())
+      field = text;
+  }
+};
+
+/// Moves each text out of the message.
+struct Moved {
+  static void take(std::string& field, std::string const& text) {
+    // The cast is safe: the message itself is not const, and it owns every text that is not empty.
+    // mutable_...() would create each absent text.
+    if (!text.empty())
+      field = std::move(const_cast<std::string&>(text));
+  }
+};
+
+template <class Texts, class Message, class Log>
+void readLog(Texts texts, Message const& message, Log& log) {
+  for (auto const& entry : message.entries())
+    read(texts, entry, log.emplace_back());
 }
-inline pb::DialledLog messageOf(Dialled) {
-  return {};
-}
-inline pb::ReceivedLog messageOf(Received) {
-  return {};
-}
-inline pb::ForwardedLog messageOf(Forwarded) {
-  return {};
+
+template <class Log, class Message>
+void writeLog(Log const& log, Message& message) {
+  for (auto const& item : log)
+    write(item, *message.add_entries());
+  message.set_handle(7);
 }
 
 template <class Kind>
@@ -65,8 +84,7 @@ private:
   std::vector<char> block_ = std::vector<char>(4 << 20);
 };
 
-/// One message for all operations. Cleared, it keeps the objects and texts of the last log, so that
-/// a log of the same shape finds all its memory there.
+/// One message for all operations. After Clear() it keeps the memory of the last log for the next.
 template <class Kind>
 class Kept {
 public:

@@ -33,8 +33,8 @@ public:
 
   typename Kind::Log decode() {
     typename Kind::Log log;
-    // Everything left out that the documents do not need; entities have to be decoded. Texts kept
-    // in their elements spare a node for each.
+    // Only what the documents need: entities have to be decoded. Texts embedded in their elements
+    // take no node of their own.
     constexpr unsigned int FLAGS =
         pugi::parse_minimal | pugi::parse_escapes | pugi::parse_embed_pcdata;
     std::memcpy(text_.data(), document_.data(), text_.size());
@@ -85,10 +85,10 @@ private:
 
   template <class Record>
   static void appendFields(pugi::xml_node parent, Record const& record) {
-    forEachField<Record>([&](auto const& field) {
-      auto const& value = record.*field.member;
+    forEachElement<Record>([&](auto const& member) {
+      auto const& value = member.in(record);
       if (isWritten(value))
-        append(parent, field.name.data(), textOf(value));
+        append(parent, member.element.data(), textOf(value));
     });
   }
 

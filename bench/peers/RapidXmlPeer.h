@@ -33,7 +33,7 @@ public:
 
   typename Kind::Log decode() {
     typename Kind::Log log;
-    // Everything left out that the documents do not need; entities have to be decoded.
+    // Only what the documents need: entities have to be decoded.
     constexpr int FLAGS = rapidxml::parse_no_data_nodes | rapidxml::parse_no_string_terminators;
     std::memcpy(text_.data(), document_.c_str(), text_.size());
     tree_.clear();

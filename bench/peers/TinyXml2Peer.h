@@ -1,5 +1,4 @@
-// TinyXML-2: parses a copy of the document, which it makes itself; the records are filled from its
-// tree.
+// TinyXML-2: parses its own copy of the document; the records are filled from its tree.
 #ifndef BENCH_PEERS_TINYXML2PEER_H
 #define BENCH_PEERS_TINYXML2PEER_H
 

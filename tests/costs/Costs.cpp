@@ -1,4 +1,4 @@
-// Runs one operation on a log of 100 entries so many times, for an instruction counter to watch.
+// Runs one operation on a log of 100 entries TIMES times, for an instruction counter.
 //
 // usage: costs decode|encode missed|dialled|received|forwarded TIMES
 #include <cstdio>
@@ -49,8 +49,8 @@ bool run(std::string const& operation, std::string const& kind, int times) {
 } // namespace
 
 int main(int count, char** arguments) {
-  // Freed blocks are merged with their neighbours at once. Otherwise what an allocation takes
-  // depends on all that was freed before it, which moved a count by 8 %.
+  // Merges freed blocks with adjacent ones at once. Otherwise the cost of an allocation depends on
+  // everything that was freed before, which moved a count by 8 %.
   if (mallopt(M_MXFAST, 0) != 1) {
     std::fputs("costs: the allocator cannot be set\n", stderr);
     return 2;

@@ -1,14 +1,15 @@
-// Plays the road: a client asks for each log, the service answers and later tells of a change; then
-// the missed-call counter and the call-log setting.
-#include "Road.h"
+// The round trip: a client asks for each log, the service answers and later notifies it of a
+// change; then the missed-call counter and the call-log setting.
+#include "Scenario.h"
 
 #include <string>
 
 #include "Client.h"
 #include "LogTable.h"
+#include "Losses.h"
 #include "ReadFile.h"
-#include "Records.h"
 #include "Service.h"
+#include "members/Equality.h"
 
 namespace {
 
@@ -58,7 +59,7 @@ std::size_t callCount(Log const& log) {
   return count;
 }
 
-/// The client subscribes: from now on the service tells it of every change.
+/// The client subscribes: from now on the service notifies it of every change.
 void playSubscription(Report& report) {
   report.section("Subscription");
   std::string const request = Helper::reqSubscribe();
@@ -81,7 +82,8 @@ Service<Kind> load(std::string const& stored, Report& report) {
   Service<Kind> service(stored);
   report.step("service", "loads " + std::string(Kind::sample),
               counted(stored.size(), "bytes, ") + counted(service.log().size(), "entries, ") +
-                  counted(callCount(service.log()), "calls; reading drops ") + Kind::unread);
+                  counted(callCount(service.log()), "calls; reading drops ") +
+                  droppedElements<typename Kind::Item>());
   report.check(!service.log().empty(), "the stored log holds entries");
   report.check(service.log().size() == occurrences(stored, Helper::ENTRY_XML_BEGIN),
                "every stored entry is loaded");
@@ -109,18 +111,20 @@ void answer(Service<Kind> const& service, std::string const& request, std::strin
   std::string const message = service.answer(request);
   report.step("service", "respGet" + std::string(Kind::name) + "CallList",
               counted(message.size(), "bytes, ") + handleText(service.handle()));
-  report.check(message == asWrittenAgain<Kind>(stored),
-               "the answer is the stored log, byte for byte, but for what reading drops");
+  using Item = typename Kind::Item;
+  report.check(asOldAs<Item>(stored, message) == asWrittenAgain<Item>(stored),
+               "the answer is the stored log, byte for byte, except for what reading drops");
 
   client.readAnswer(message);
   report.step("client", "parseXML" + std::string(Kind::name) + "CallList",
               counted(client.log().size(), "entries, ") +
                   counted(callCount(client.log()), "calls, ") + handleText(client.handle()));
-  report.check(client.log() == asRead(service.log()), "the client reads what the service holds");
+  report.check(members::equal(client.log(), members::asRead(service.log())),
+               "the client reads what the service holds");
   report.check(client.handle() == service.handle(), "the client reads the handle");
 }
 
-/// What happens next: the party of the last entry is on the line again.
+/// The next event: the party of the last entry calls, or is called, again.
 template <class Kind>
 typename Kind::Call anotherCall(Service<Kind> const& service) {
   typename Kind::Call call = service.log().back().callInfoList.front();
@@ -156,11 +160,12 @@ void change(Service<Kind>& service, Client<Kind>& client, Report& report) {
   report.check(client.lastAction() == JournalServiceObserverIfc::ENTRY_CHANGED,
                "the client reads the kind of change");
   report.check(client.handle() == service.handle(), "the client reads the new handle");
-  report.check(client.log() == asRead(service.log()), "the client's log follows the service's");
+  report.check(members::equal(client.log(), members::asRead(service.log())),
+               "the client's log follows the service's");
 }
 
-/// The road of one log.
-/// @return the service's log at the end of the road
+/// The round trip of one log.
+/// @return the service's log at the end
 template <class Kind>
 typename Kind::Log playLog(std::string const& folder, Report& report) {
   report.section(std::string(Kind::name) + " calls");
@@ -172,7 +177,7 @@ typename Kind::Log playLog(std::string const& folder, Report& report) {
   report.stream() << '\n';
   printLog<Kind>(report.stream(), client.log());
   if (service.log().empty() || service.log().back().callInfoList.empty())
-    return service.log(); // nobody there to call again
+    return service.log(); // nobody can call again
 
   report.stream() << '\n';
   change(service, client, report);
@@ -181,7 +186,7 @@ typename Kind::Log playLog(std::string const& folder, Report& report) {
   return service.log();
 }
 
-/// The service tells how many missed calls the user has not seen.
+/// The service sends the number of missed calls that the user has not seen.
 void playCounter(Missed::Log const& log, Report& report) {
   report.section("Missed-call counter");
   unsigned int unseen = 0;
@@ -199,7 +204,7 @@ void playCounter(Missed::Log const& log, Report& report) {
   report.check(found && count == unseen, "the client reads the counter");
 }
 
-/// What the store answers about the setting; it writes "true" and "false", not "True" and "False".
+/// The store's answer about the setting. It says "true" and "false", not "True" and "False".
 std::string storeAnswer(bool enabled) {
   std::string message =
       Helper::createXMLField(Helper::CALL_LOG_ENABLED, enabled ? "true" : "false");
@@ -228,7 +233,7 @@ void playSetting(Report& report) {
 
 } // namespace
 
-void playRoad(std::string const& sampleFolder, Report& report) {
+void playScenario(std::string const& sampleFolder, Report& report) {
   playSubscription(report);
   Missed::Log const missed = playLog<Missed>(sampleFolder, report);
   playLog<Dialled>(sampleFolder, report);
