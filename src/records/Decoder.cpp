@@ -1,12 +1,14 @@
 // Reads records: a strict fast path with a general fallback; both give the same result.
 //
-// The strict parser takes text exactly as our encoder writes it. An entry that is anything else is
-// read again by the fallback, which sets every field that the strict parser may have set.
+// The strict parser takes text exactly as our encoder writes it, the tolerant parser continues over
+// any other. Where neither can tell the result, the record is read again by plain searches, which
+// set every field that a parser may have set.
 #include "records/Decoder.h"
 
-#include "records/Fallback.h"
+#include "records/PlainSearch.h"
 #include "records/RecordOps.h"
 #include "records/StrictParser.h"
+#include "records/TolerantParser.h"
 #include "xml/Cursor.h"
 #include "xml/ElementIterator.h"
 
@@ -31,8 +33,7 @@ std::string_view decodeEntries(std::string_view text, RecordOps const& ops, void
     auto* const entry = ops.appendEntry(log);
     auto* const calls = ops.callsOf(entry);
     StrictParser parser(entries.rest());
-    if (parseEntry(parser, ops, entry, calls, reader) &&
-        parser.take(element<word::ENTRY>.close())) {
+    if (parseEntry(parser, ops, entry, calls, reader, Ending::tag)) {
       auto const skipped = before.substr(0, before.size() - entries.rest().size());
       if (unsearched.data() == before.data() && !holdsHandle(skipped))
         unsearched = parser.rest();
@@ -57,7 +58,7 @@ bool erased::decodeCall(LogKind kind, char const* text, void* call) {
   auto const view = viewOf(text);
   FieldReader reader;
   StrictParser parser(view);
-  if (!ops.parseCall(parser, call, reader) || !parser.rest().empty())
+  if (!parseCall(parser, ops, call, reader))
     searchCall(view, ops, call, reader);
   return true;
 }
@@ -74,7 +75,7 @@ void erased::decodeEntry(LogKind kind, char const* text, void* entry, void* call
   auto const view = viewOf(text);
   FieldReader reader;
   StrictParser parser(view);
-  if (!parseEntry(parser, ops, entry, calls, reader) || !parser.rest().empty())
+  if (!parseEntry(parser, ops, entry, calls, reader, Ending::text))
     searchEntry(view, ops, entry, calls, reader);
 }
 

@@ -1,13 +1,15 @@
 // The fields of a record, visited in a loop or unrolled.
 //
 //   forEach(fields, visit)   calls visit(field) for each field in order
-//   allOf(fields, visit)     calls visit(field, run) until one returns false; returns whether none
-//                            did. The run is the literal run that starts with the field, or empty
+//   allOf(fields, visit)     calls visit(field, run, bit) until one returns false; returns whether
+//                            none did. The run is the literal run that starts with the field, or
+//                            empty; the bit stands for the field in a FieldSet
 #ifndef JOURNAL_RECORDS_FIELDLISTS_H
 #define JOURNAL_RECORDS_FIELDLISTS_H
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
 #include <utility>
@@ -16,6 +18,9 @@
 #include "records/FieldDescriptor.h"
 
 namespace journal {
+
+/// A set of fields of one record, a bit for each in the order of writing.
+using FieldSet = std::uint32_t;
 
 /// Fields visited in a loop: the smallest code. It has no literal runs.
 class LoopedFields {
@@ -40,9 +45,12 @@ JOURNAL_INLINE_ONCE inline void forEach(LoopedFields fields, Visit visit) {
 
 template <class Visit>
 JOURNAL_INLINE_ONCE inline bool allOf(LoopedFields fields, Visit visit) {
-  for (auto const& field : fields)
-    if (!visit(field, std::string_view()))
+  FieldSet bit = 1;
+  for (auto const& field : fields) {
+    if (!visit(field, std::string_view(), bit))
       return false;
+    bit <<= 1;
+  }
   return true;
 }
 
@@ -104,7 +112,7 @@ JOURNAL_INLINE_ONCE inline void forEach(Visit& visit, std::index_sequence<index.
 
 template <auto const& fields, class Visit, std::size_t... index>
 JOURNAL_INLINE_ONCE inline bool allOf(Visit& visit, std::index_sequence<index...>) {
-  return (visit(fields[index], LiteralRun<fields, index>::text) && ...);
+  return (visit(fields[index], LiteralRun<fields, index>::text, FieldSet{1} << index) && ...);
 }
 
 } // namespace detail

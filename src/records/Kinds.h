@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "CallLogItems.h"
@@ -196,12 +198,23 @@ struct Kind<ForwardedCallItem> {
 
 namespace detail {
 
-template <class Fields>
-constexpr bool namesAreUnique(Fields const& fields) {
+/// Whether no name occurs twice in an entry and its calls.
+template <class Fields, class MoreFields>
+constexpr bool namesAreUnique(Fields const& fields, MoreFields const& more) {
+  auto count = [&](std::string_view tag) {
+    int same = 0;
+    for (auto const& field : fields)
+      same += field.begin() == tag ? 1 : 0;
+    for (auto const& field : more)
+      same += field.begin() == tag ? 1 : 0;
+    return same;
+  };
   for (auto const& field : fields)
-    for (auto const* other = &fields[0]; other != &field; ++other)
-      if (other->begin() == field.begin())
-        return false;
+    if (count(field.begin()) != 1)
+      return false;
+  for (auto const& field : more)
+    if (count(field.begin()) != 1)
+      return false;
   return true;
 }
 
@@ -216,14 +229,21 @@ constexpr bool frontsCanBeLoaded(Fields const& fields) {
   return true;
 }
 
+/// A FieldSet has a bit for each field.
 template <class Fields>
-constexpr bool areSound(Fields const& fields) {
-  return namesAreUnique(fields) && frontsCanBeLoaded(fields);
+constexpr bool fitsInSet(Fields const& fields) {
+  return std::size(fields) < 32;
+}
+
+template <class Kind>
+constexpr bool isSound() {
+  return namesAreUnique(Kind::entry, Kind::call) && frontsCanBeLoaded(Kind::entry) &&
+         frontsCanBeLoaded(Kind::call) && fitsInSet(Kind::entry) && fitsInSet(Kind::call);
 }
 
 template <class... Entry>
 constexpr bool kindsAreSound() {
-  return (areSound(Kind<Entry>::entry) && ...) && (areSound(Kind<Entry>::call) && ...);
+  return (isSound<Kind<Entry>>() && ...);
 }
 static_assert(
     kindsAreSound<MissedCallItem, DialledCallItem, ReceivedCallItem, ForwardedCallItem>());

@@ -29,11 +29,13 @@ struct OpsFor {
   static_assert(RecordWriter::canWrite(Kind<Entry>::entry) &&
                 RecordWriter::canWrite(Kind<Entry>::call));
 
-  static bool parseEntryFields(StrictParser& parser, void* entry, FieldReader& reader) {
-    return parseFields(fieldList<Kind<Entry>::entry>(), parser, entry, reader);
+  static bool parseEntryFields(StrictParser& parser, void* entry, FieldReader& reader,
+                               FieldStates& states) {
+    return parseFields(fieldList<Kind<Entry>::entry>(), parser, entry, reader, states);
   }
-  static bool parseCall(StrictParser& parser, void* call, FieldReader& reader) {
-    return parseFields(fieldList<Kind<Entry>::call>(), parser, call, reader);
+  static bool parseCallFields(StrictParser& parser, void* call, FieldReader& reader,
+                              FieldStates& states) {
+    return parseFields(fieldList<Kind<Entry>::call>(), parser, call, reader, states);
   }
   static void writeEntryFields(RecordWriter& writer, void const* entry) {
     writer.append("", fieldList<Kind<Entry>::entry>(), entry, "");
@@ -60,20 +62,11 @@ struct OpsFor {
   }
   static bool isEmpty(void const* calls) { return static_cast<Calls const*>(calls)->empty(); }
 
-  static constexpr RecordOps ops = {Kind<Entry>::entry,
-                                    Kind<Entry>::callRead,
-                                    parseEntryFields,
-                                    parseCall,
-                                    writeEntryFields,
-                                    writeCalls,
-                                    writeEntries,
-                                    clearLog,
-                                    appendEntry,
-                                    dropLastEntry,
-                                    callsOf,
-                                    clearCalls,
-                                    appendCall,
-                                    isEmpty};
+  static constexpr RecordOps ops = {Kind<Entry>::entry, Kind<Entry>::call, Kind<Entry>::callRead,
+                                    parseEntryFields,   parseCallFields,   writeEntryFields,
+                                    writeCalls,         writeEntries,      clearLog,
+                                    appendEntry,        dropLastEntry,     callsOf,
+                                    clearCalls,         appendCall,        isEmpty};
 };
 
 } // namespace

@@ -11,17 +11,22 @@ namespace journal {
 class FieldReader;
 class RecordWriter;
 class StrictParser;
+struct FieldStates;
 
 /// The pointers are to records and containers of one kind: a log is a std::deque of entries, calls
 /// are a std::list.
 struct RecordOps {
-  // The fields in the order in which the fallback searches them.
+  // The fields in the order in which they are written, and a call's in the order in which plain
+  // searches read them.
   LoopedFields entryFields;
   LoopedFields callFields;
+  LoopedFields callRead;
 
   // Reading and writing the fields, unrolled where the code is built for speed.
-  bool (*parseEntryFields)(StrictParser& parser, void* entry, FieldReader& reader);
-  bool (*parseCall)(StrictParser& parser, void* call, FieldReader& reader);
+  bool (*parseEntryFields)(StrictParser& parser, void* entry, FieldReader& reader,
+                           FieldStates& states);
+  bool (*parseCallFields)(StrictParser& parser, void* call, FieldReader& reader,
+                          FieldStates& states);
   void (*writeEntryFields)(RecordWriter& writer, void const* entry);
   void (*writeCalls)(RecordWriter& writer, void const* entry);
   void (*writeEntries)(RecordWriter& writer, void const* log);

@@ -14,18 +14,19 @@
 
 namespace journal {
 
-struct RecordOps;
-
 /// Reads forward and never searches. As long as a text holds nothing but the expected elements in
 /// their order, each at most once, no tag occurs anywhere else in it (a value read here holds no
-/// "<"), and every search of the fallback would end where this parser found the element. At the
-/// first mismatch, or at a NUL, it gives up, and the fallback decides.
+/// "<"), and every plain search would end where this parser found the element. At a mismatch, or at
+/// a NUL, the fallback continues.
 class StrictParser {
 public:
   explicit StrictParser(std::string_view text) : at_(text.data()), end_(at_ + text.size()) {}
 
   /// The text that is not read yet.
   std::string_view rest() const { return {at_, left()}; }
+  char const* at() const { return at_; }
+  char const* end() const { return end_; }
+  void goTo(char const* at) { at_ = at; }
 
   /// Reads a tag, or whole elements; returns whether they are here.
   JOURNAL_INLINE inline bool take(std::string_view expected) {
@@ -58,40 +59,51 @@ private:
   char const* end_;
 };
 
-/// Reads the fields of a record, in the order in which they are written. Returns false at a
-/// mismatch, with some fields stored.
+/// How far a parser came with the fields of a record.
+struct FieldStates {
+  FieldSet unseen = 0; ///< no begin tag so far
+  FieldSet open = 0;   ///< a begin tag, but another tag than the close tag behind the value
+};
+
+/// Reads the fields of a record, in the order in which they are written. At a mismatch, stops
+/// before the tag that does not match and returns false.
+/// @param[out] states the fields that were not stored
 template <class Fields>
 JOURNAL_INLINE inline bool parseFields(Fields fields, StrictParser& from, void* record,
-                                       FieldReader& reader) {
+                                       FieldReader& reader, FieldStates& states) {
   auto parser = from; // a copy that can stay in registers
-  auto const store = [&](std::string_view raw, FieldDescriptor const& field) JOURNAL_INLINE_ONCE {
+  FieldSet unseen = 0;
+  auto const store = [&](std::string_view raw, FieldDescriptor const& field,
+                         FieldSet bit) JOURNAL_INLINE_ONCE {
+    if (isAbsent(raw))
+      unseen |= bit;
     if (field.reading() == Reading::discarded)
       return;
     // An unclosed element is found by a second begin tag only, and there is none here.
     reader.store(field.reading() == Reading::unclosed ? absent : raw, field, record);
   };
   auto inRun = false;
-  auto const matched =
-      allOf(fields, [&](FieldDescriptor const& field, std::string_view run) JOURNAL_INLINE_ONCE {
-        if (builtForSpeed && !field.isJoined())
-          inRun = !run.empty() && parser.take(run);
-        std::string_view raw;
-        if (inRun)
-          store(field.expectedText(), field);
-        else if (parser.take(field.begin(), field.close(), raw))
-          store(raw, field);
-        else
-          return false;
-        return true;
-      });
+  auto const matched = allOf(fields, [&](FieldDescriptor const& field, std::string_view run,
+                                         FieldSet bit) JOURNAL_INLINE_ONCE {
+    if (builtForSpeed && !field.isJoined())
+      inRun = !run.empty() && parser.take(run);
+    std::string_view raw;
+    if (inRun) {
+      store(field.expectedText(), field, bit);
+    } else if (parser.take(field.begin(), field.close(), raw)) {
+      store(raw, field, bit);
+    } else {
+      parser.goTo(raw.data() + raw.size());
+      states.open = bit;
+      unseen |= ~(bit | (bit - 1)); // and none of the fields behind it
+      return false;
+    }
+    return true;
+  });
   from = parser;
+  states.unseen = unseen;
   return matched;
 }
-
-/// Reads an entry, its calls into `calls`. Returns false at a mismatch, with some fields stored and
-/// some calls appended.
-bool parseEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* calls,
-                FieldReader& reader);
 
 } // namespace journal
 

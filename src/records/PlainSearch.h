@@ -1,6 +1,6 @@
-// The fallback: reads records from any text by plain searches, as the format defines it.
-#ifndef JOURNAL_RECORDS_FALLBACK_H
-#define JOURNAL_RECORDS_FALLBACK_H
+// Reads records from any text by plain searches, as the format defines it.
+#ifndef JOURNAL_RECORDS_PLAINSEARCH_H
+#define JOURNAL_RECORDS_PLAINSEARCH_H
 
 #include <string_view>
 
@@ -10,7 +10,7 @@
 namespace journal {
 
 // Each reads from a text that ends where the record ends, and sets every field that is read, so
-// that nothing is left of a strict parser's attempt.
+// that nothing is left of a parser's attempt.
 
 /// One call.
 void searchCall(std::string_view text, RecordOps const& ops, void* call, FieldReader& reader);

@@ -1,5 +1,5 @@
-// The fallback: reads records from any text by plain searches, as the format defines it.
-#include "records/Fallback.h"
+// Reads records from any text by plain searches, as the format defines it.
+#include "records/PlainSearch.h"
 
 #include "xml/Cursor.h"
 #include "xml/ElementIterator.h"
@@ -19,7 +19,7 @@ void searchFields(LoopedFields fields, Cursor& cursor, void* record, FieldReader
 
 void searchCall(std::string_view text, RecordOps const& ops, void* call, FieldReader& reader) {
   Cursor cursor(text);
-  searchFields(ops.callFields, cursor, call, reader);
+  searchFields(ops.callRead, cursor, call, reader);
 }
 
 void searchCalls(std::string_view text, RecordOps const& ops, void* calls, FieldReader& reader) {
