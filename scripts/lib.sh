@@ -4,8 +4,8 @@ set -euo pipefail
 journal_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 journal_jobs=$(nproc)
 
-# The Debian packages of each script and of each stage of scripts/test. All that a build looks for is
-# named with it, since what CMake does not find is left out without an error.
+# The Debian packages of each script and of each stage of scripts/test. All that a build looks for
+# is named, since CMake leaves out what it does not find, without an error.
 native='cmake g++ ninja-build libgtest-dev libcli11-dev'
 emulated='cmake ninja-build googletest qemu-user'
 mips="$emulated g++-mips-linux-gnu"
@@ -13,7 +13,7 @@ declare -A journal_packages=(
   [check]='clang-format git'
   [release]=$native
   [clang]="$native clang"
-  [sanitizers]=$native
+  [sanitizers]="$native clang libclang-rt-14-dev"
   [threads]="$native clang libclang-rt-14-dev"
   [mips]=$mips
   [complexity]="$native gawk valgrind"
@@ -22,6 +22,7 @@ declare -A journal_packages=(
   [install]="$native clang pkg-config"
   [demo]='cmake g++ ninja-build'
   [differential]=$native
+  [mips-ubsan]=$mips
   [memcheck]="$native valgrind"
   [i686]='cmake ninja-build googletest g++-i686-linux-gnu'
   [mipsel]="$emulated g++-mipsel-linux-gnu"
@@ -37,12 +38,11 @@ declare -A journal_packages=(
 
 # install_packages NAME...: installs what these need and is missing. Needs root or sudo only then.
 install_packages() {
-  local name package log missing=() as_root=()
-  for name in "$@"; do
-    for package in ${journal_packages[$name]}; do
-      dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
-        missing+=("$package")
-    done
+  local name package wanted='' missing=() as_root=()
+  for name in "$@"; do wanted+=" ${journal_packages[$name]}"; done
+  for package in $(printf '%s\n' $wanted | sort -u); do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
   [ "$(id -u)" -eq 0 ] || as_root=(sudo)
@@ -52,12 +52,12 @@ install_packages() {
     apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# configure PRESET [OPTION...]: from scratch when packages changed since the last time, because CMake
-# remembers what it did not find.
+# configure PRESET: from scratch when packages changed since the last time, because CMake remembers
+# what it did not find.
 configure() {
   local fresh=
   [ "build/$1/CMakeCache.txt" -nt /var/lib/dpkg/status ] || fresh=--fresh
-  quietly cmake --preset "$@" $fresh
+  quietly cmake --preset "$1" $fresh
 }
 
 # build PRESET [TARGET...]: configures and builds all of it, or these targets.
