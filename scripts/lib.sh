@@ -33,7 +33,7 @@ declare -A journal_packages=(
   [charts]='gnuplot-nox'
   [coverage]="$native gcovr python3"
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
-  [mutate]="$native python3"
+  [mutate]="$native $mips python3"
 )
 
 # install_packages NAME...: installs what these need and is missing. Needs root or sudo only then.
