@@ -5,10 +5,7 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/JournalServiceHelper)
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(TARGETS journal_service_helper journal_client_utils
-  EXPORT JournalServiceHelperTargets
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  EXPORT JournalServiceHelperTargets)
 install(EXPORT JournalServiceHelperTargets
   NAMESPACE JournalServiceHelper::
   DESTINATION ${package_dir})
@@ -25,13 +22,13 @@ install(FILES
   ${PROJECT_BINARY_DIR}/JournalServiceHelperConfigVersion.cmake
   DESTINATION ${package_dir})
 
-# Told from the place of the pkg-config file, so that an installed tree can be moved.
+# Paths relative to the pkg-config file, so that an installed tree can be moved.
 file(RELATIVE_PATH pkgconfig_to_prefix
   ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 file(RELATIVE_PATH prefix_to_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH prefix_to_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 
-# What a program links: the product's own utility library by its path, the stand-in by its name.
+# A program links the product's own utility library by its path, the one built here by its name.
 if(JOURNAL_CLIENTUTILS_LIBRARY)
   set(clientutils_to_link ${JOURNAL_CLIENTUTILS_LIBRARY})
 else()

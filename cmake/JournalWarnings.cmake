@@ -1,4 +1,4 @@
-# The warnings that all of this project's own code is compiled with.
+# The warnings for all code of this project.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 if(JOURNAL_WARNINGS_AS_ERRORS)
   add_compile_options(-Werror)

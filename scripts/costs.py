@@ -35,7 +35,8 @@ def footprint():
         for name, preset in ('MinSizeRel', 'size'), ('Release', 'release'):
             folder = preset if not prefix else {'size': 'mips-size', 'release': 'mips'}[preset]
             stripped = WORK / f'{folder}.so'
-            output_of(prefix + 'strip', '-o', stripped, f'build/{folder}/src/libJournalServiceHelper.so')
+            output_of(prefix + 'strip', '-o', stripped,
+                      f'build/{folder}/src/libJournalServiceHelper.so')
             text, data = map(int, output_of(prefix + 'size', stripped).splitlines()[1].split()[:2])
             rows[f'{architecture} {name}'] = [text, data, text + data]
     return rows
@@ -54,7 +55,8 @@ def on_mips(library):
 
 def on_x86_64(*arguments):
     shown = output_of('valgrind', '--tool=callgrind', '--callgrind-out-file=/dev/null',
-                      'build/release/tests/costs/journal_costs', *arguments, env={'PATH': os.environ['PATH']})
+                      'build/release/tests/costs/journal_costs', *arguments,
+                      env={'PATH': os.environ['PATH']})
     return int(re.search(r'Collected : (\d+)', shown)[1])
 
 
@@ -196,7 +198,7 @@ def main():
     if '--update' in sys.argv[1:]:
         DOCUMENT.write_text(text)
     if not good:
-        sys.exit('What grew by more than 2 % stands above; scripts/costs --update takes it over')
+        sys.exit('More than 2 % above docs/costs.md, see above; scripts/costs --update accepts it')
 
 
 main()

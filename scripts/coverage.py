@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Merges what gcov counted into one gcovr tracefile in which each branch of the source stands once.
+"""Merges what gcov counted into one gcovr tracefile with each branch of the source once.
 
 A header is compiled into many programs and a template is compiled once for each type, and gcov
 counts the branches of every copy. Here a branch of the source counts as taken when a copy takes it.
@@ -91,7 +91,7 @@ class Merged:
         starts = [start_of(f) for f in functions if f['name'] == function]
         copies = 1
         if function is None:
-            # gcov joins the copies of a lambda that stands in a template.
+            # gcov joins the copies of a lambda in a template.
             around = [start_of(f) for f in functions
                       if f['start_line'] <= line['line_number'] <= f['end_line']]
             starts = [max(around, default=None)]

@@ -1,32 +1,68 @@
-# Shared by the scripts: the project's root, and Debian packages installed when they are missing.
-# Sourced, not run.
+# Shared by the scripts. Sourced, not run.
 set -euo pipefail
 
 journal_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 journal_jobs=$(nproc)
 
-# need_packages NAME...: installs those that are missing. Needs root or sudo only then.
-need_packages() {
-  local missing=() name
-  for name in "$@"; do
-    dpkg-query -W -f '${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
+# The Debian packages of each script and of each stage of scripts/test. All that a build looks for
+# is named, since CMake leaves out what it does not find, without an error.
+native='cmake g++ ninja-build libgtest-dev libcli11-dev'
+emulated='cmake ninja-build googletest qemu-user'
+mips="$emulated g++-mips-linux-gnu"
+declare -A journal_packages=(
+  [check]='clang-format git'
+  [release]=$native
+  [clang]="$native clang"
+  [sanitizers]="$native clang libclang-rt-14-dev"
+  [threads]="$native clang libclang-rt-14-dev"
+  [mips]=$mips
+  [complexity]="$native gawk valgrind"
+  [costs]="$native $mips gcc python3 valgrind"
+  [abi]="$native $mips binutils dwarves"
+  [install]='binutils cmake g++ ninja-build pkg-config'
+  [demo]='cmake g++ ninja-build'
+  [differential]=$native
+  [mips-ubsan]=$mips
+  [memcheck]="$native valgrind"
+  [i686]='cmake ninja-build googletest g++-i686-linux-gnu'
+  [mipsel]="$emulated g++-mipsel-linux-gnu"
+  [powerpc]="$emulated g++-powerpc-linux-gnu"
+  [s390x]="$emulated g++-s390x-linux-gnu"
+  [bench]='cmake g++ ninja-build python3 libbenchmark-dev librapidxml-dev libpugixml-dev
+    libexpat1-dev libtinyxml2-dev libxml2-dev libprotobuf-dev protobuf-compiler'
+  [charts]='gnuplot-nox'
+  [coverage]="$native gcovr python3"
+  [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
+  [mutate]="$native $mips python3"
+)
+
+# install_packages NAME...: installs what these need and is missing. Needs root or sudo only then.
+install_packages() {
+  local name package wanted='' missing=() as_root=()
+  for name in "$@"; do wanted+=" ${journal_packages[$name]}"; done
+  for package in $(printf '%s\n' $wanted | sort -u); do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
   done
-  [ ${#missing[@]} -eq 0 ] && return
-  local as_root=()
+  [ ${#missing[@]} -gt 0 ] || return 0
   [ "$(id -u)" -eq 0 ] || as_root=(sudo)
   echo "Installing ${missing[*]}" >&2
-  local log
-  log=$(mktemp)
-  if ! {
-    "${as_root[@]}" apt-get update &&
-      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends "${missing[@]}"
-  } >"$log" 2>&1 </dev/null; then
-    cat "$log" >&2
-    echo "Could not install ${missing[*]}" >&2
-    exit 1
-  fi
-  rm -f "$log"
+  quietly "${as_root[@]}" apt-get update
+  quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# configure PRESET: from scratch when packages changed since the last time, because CMake remembers
+# what it did not find.
+configure() {
+  local fresh=
+  [ "build/$1/CMakeCache.txt" -nt /var/lib/dpkg/status ] || fresh=--fresh
+  quietly cmake --preset "$1" $fresh
+}
+
+# build PRESET [TARGET...]: configures and builds all of it, or these targets.
+build() {
+  configure "$1" && quietly cmake --build "build/$1" ${2:+--target "${@:2}"}
 }
 
 # quietly COMMAND...: shows what it printed only when it fails.

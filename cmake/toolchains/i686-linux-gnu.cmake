@@ -1,12 +1,6 @@
-# 32-bit x86 Linux, run as it is. Debian package: g++-i686-linux-gnu, which brings its own C library
-# in /usr/i686-linux-gnu; the loader is told where.
-set(CMAKE_SYSTEM_NAME Linux)
+# 32-bit x86, run as it is by the loader of its own C library, which the package brings.
+set(triplet i686-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR i686)
-set(CMAKE_CXX_COMPILER i686-linux-gnu-g++)
-set(CMAKE_FIND_ROOT_PATH /usr/i686-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)
 set(CMAKE_CROSSCOMPILING_EMULATOR
-    "/usr/i686-linux-gnu/lib/ld-linux.so.2;--library-path;/usr/i686-linux-gnu/lib")
+    "/usr/${triplet}/lib/ld-linux.so.2;--library-path;/usr/${triplet}/lib")

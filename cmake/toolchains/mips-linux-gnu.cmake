@@ -1,10 +1,4 @@
-# mips Linux, run under qemu. Debian packages: g++-mips-linux-gnu, qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# Big-endian 32-bit MIPS, run under qemu.
+set(triplet mips-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR mips)
-set(CMAKE_CXX_COMPILER mips-linux-gnu-g++)
-set(CMAKE_FIND_ROOT_PATH /usr/mips-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-mips;-L;/usr/mips-linux-gnu")
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

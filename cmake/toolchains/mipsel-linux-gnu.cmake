@@ -1,10 +1,4 @@
-# mipsel Linux, run under qemu. Debian packages: g++-mipsel-linux-gnu, qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# Little-endian 32-bit MIPS, run under qemu.
+set(triplet mipsel-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR mipsel)
-set(CMAKE_CXX_COMPILER mipsel-linux-gnu-g++)
-set(CMAKE_FIND_ROOT_PATH /usr/mipsel-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-mipsel;-L;/usr/mipsel-linux-gnu")
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

@@ -1,10 +1,4 @@
-# powerpc Linux, run under qemu. Debian packages: g++-powerpc-linux-gnu, qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# Big-endian 32-bit PowerPC, run under qemu.
+set(triplet powerpc-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR ppc)
-set(CMAKE_CXX_COMPILER powerpc-linux-gnu-g++)
-set(CMAKE_FIND_ROOT_PATH /usr/powerpc-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-ppc;-L;/usr/powerpc-linux-gnu")
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

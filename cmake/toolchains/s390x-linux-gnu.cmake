@@ -1,10 +1,4 @@
-# s390x Linux, run under qemu. Debian packages: g++-s390x-linux-gnu, qemu-user.
-set(CMAKE_SYSTEM_NAME Linux)
+# Big-endian 64-bit s390x, run under qemu.
+set(triplet s390x-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR s390x)
-set(CMAKE_CXX_COMPILER s390x-linux-gnu-g++)
-set(CMAKE_FIND_ROOT_PATH /usr/s390x-linux-gnu)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR "qemu-s390x;-L;/usr/s390x-linux-gnu")
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)
