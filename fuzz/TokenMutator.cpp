@@ -1,5 +1,5 @@
 // The mutator of the fuzz targets: it inserts, deletes, replaces, exchanges and repeats whole tags
-// and values, by turns with the fuzzer's own changes of bytes.
+// and values. Half of the mutations are left to the fuzzer itself, which changes bytes.
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -8,6 +8,7 @@
 
 #include "Fuzz.h"
 #include "differential/Messages.h"
+#include "differential/Tokens.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
@@ -36,19 +37,7 @@ std::string_view letter(Random& random) {
   return letters[random.below(letters.size())];
 }
 
-using Tokens = std::vector<std::string_view>;
-
-// Tags, and what stands between them; a "<" that begins no tag is a token with what follows.
-void cut(std::string_view text, Tokens& tokens) {
-  tokens.clear();
-  while (!text.empty()) {
-    auto end = text.find(text.front() == '<' ? '>' : '<', 1);
-    if (text.front() == '<' && end != std::string_view::npos)
-      ++end;
-    tokens.push_back(text.substr(0, end));
-    text.remove_prefix(tokens.back().size());
-  }
-}
+using differential::Tokens;
 
 void mutate(Tokens& tokens, Random& random) {
   using Difference = Tokens::difference_type;
@@ -89,14 +78,13 @@ void mutate(Tokens& tokens, Random& random) {
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t maxSize, unsigned int seed) {
-  static Tokens tokens;
   static std::string text;
   Random random(seed);
   if (size < fuzz::selectorBytes || random.below(2) == 0)
     return LLVMFuzzerMutate(data, size, maxSize);
 
   auto const front = fuzz::selectorBytes;
-  cut({reinterpret_cast<char const*>(data) + front, size - front}, tokens);
+  auto tokens = differential::tokensOf({reinterpret_cast<char const*>(data) + front, size - front});
   for (auto edits = 1 + random.below(2); edits > 0; --edits)
     mutate(tokens, random);
   text.clear();

@@ -8,6 +8,7 @@
 #include "ClientUtils.h"
 #include "differential/Shown.h"
 #include "reference/Reference.h"
+#include "vocabulary/Constants.h"
 
 namespace comparison {
 namespace {
@@ -22,7 +23,7 @@ using Library = JournalServiceHelper;
 #define JOURNAL_COMPARE_CALL(CALL, INPUT)                                                          \
   JOURNAL_COMPARE(#CALL, INPUT, Library::CALL, Reference::CALL)
 
-// Results with their outputs, the outputs holding something before.
+// Results with their outputs, which hold something before.
 
 template <class Operations, class Value>
 std::pair<long long, Value> atCursor(char const* text, std::string const& begin,
@@ -102,57 +103,12 @@ Difference compareConversions(std::string const& text) {
 }
 
 std::string const* nameCalled(std::string_view name) {
-  auto const& names = elementNames();
+  auto const& names = vocabulary::elementNames();
   auto const found = std::find(names.begin(), names.end(), name);
   return found == names.end() ? nullptr : &*found;
 }
 
 } // namespace
-
-std::vector<std::string> const& elementNames() {
-  static std::vector<std::string> const names = {
-      "Method",
-      "Entry",
-      "LogList",
-      "Item",
-      "Handle",
-      "UniqueId",
-      "EntryId",
-      "Surname",
-      "Firstname",
-      "Picture",
-      "JSGroupBy",
-      "Viewed",
-      "Number",
-      "NumberType",
-      "ResolvedNumber",
-      "ConnectedNumber",
-      "ConnectedNumberPriority",
-      "ConnectedNumberType",
-      "ConnectedSurname",
-      "ConnectedFirstName",
-      "TimeDate",
-      "Duration",
-      "TargetLog",
-      "NumberPresentation",
-      "NamePresentation",
-      "DeflectNumberPresentation",
-      "DeflectNumber",
-      "DeflectNumberType",
-      "DeflectNamePresentation",
-      "DeflectName",
-      "TimeFormat",
-      "ActionType",
-      "UniqueIdToDelete",
-      "ReasonForMessage",
-      "CallLogEnabled",
-      "Schema",
-      "Value",
-      "Index",
-      "",
-  };
-  return names;
-}
 
 void namesIn(std::string const& text, std::vector<std::string const*>& names) {
   names.clear();
@@ -300,7 +256,7 @@ std::vector<std::string const*> const& elementsInTurn(std::string const& text,
                                                       std::string const& about, unsigned int turn) {
   static thread_local std::vector<std::string const*> chosen;
   static thread_local std::vector<std::string const*> held;
-  auto const& all = elementNames();
+  auto const& all = vocabulary::elementNames();
   namesIn(about, chosen);
   namesIn(text, held);
   if (!held.empty())

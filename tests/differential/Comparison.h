@@ -30,10 +30,8 @@ enum class Outputs { fresh, filled };
 /// The texts of one input in readable form, cut off where it gets long.
 std::string readable(std::string const& text);
 
-/// Every element name of the messages, and the empty name.
-std::vector<std::string> const& elementNames();
-
-/// The names out of elementNames() of which the text holds a begin or close tag, each once.
+/// The names out of vocabulary::elementNames() of which the text holds a begin or close tag, each
+/// once.
 void namesIn(std::string const& text, std::vector<std::string const*>& names);
 
 /// The extractors of one element: two at a cursor, five that search the whole message.

@@ -1,7 +1,5 @@
 // The enumerations' underlying types: 32 bits everywhere, so that any such value may be stored.
-#include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <limits>
 #include <type_traits>
 
@@ -39,39 +37,6 @@ TEST(EnumerationTypes, HoldAny32BitValue) {
   expectToHoldAny32BitValue<CallLogEntryEvent::_LogTarget>();
   expectToHoldAny32BitValue<JournalServiceObserverIfc::ActionType>();
   expectToHoldAny32BitValue<JournalServiceHelper::MethodCode>();
-}
-
-TEST(EnumerationTypes, NumberTheMethodsWithTheirGaps) {
-  std::uint32_t const codes[] = {
-      JournalServiceHelper::GETMISSEDCALLLIST,
-      JournalServiceHelper::SETMISSEDCALLLISTASVIEWED,
-      JournalServiceHelper::DELETEMISSEDCALL,
-      JournalServiceHelper::DELETEMISSEDCALLLIST,
-      JournalServiceHelper::GETDIALLEDCALLLIST,
-      JournalServiceHelper::DELETEDIALLEDCALL,
-      JournalServiceHelper::DELETEDIALLEDCALLLIST,
-      JournalServiceHelper::GETRECEIVEDCALLLIST,
-      JournalServiceHelper::DELETERECEIVEDCALL,
-      JournalServiceHelper::DELETERECEIVEDCALLLIST,
-      JournalServiceHelper::GETFORWARDEDCALLLIST,
-      JournalServiceHelper::DELETEFORWARDEDCALL,
-      JournalServiceHelper::DELETEFORWARDEDCALLLIST,
-      JournalServiceHelper::GETLASTDIALLEDNUMBER,
-      JournalServiceHelper::SUBSCRIBE,
-      JournalServiceHelper::UNSUBSCRIBE,
-      JournalServiceHelper::REFRESHCALLLOG,
-      JournalServiceHelper::MISSEDCALLSCOUNTUPDATE,
-      JournalServiceHelper::MISSEDCALLSUPDATE,
-      JournalServiceHelper::DIALLEDCALLSUPDATE,
-      JournalServiceHelper::RECEIVEDCALLSUPDATE,
-      JournalServiceHelper::FORWARDEDCALLSUPDATE,
-      JournalServiceHelper::UNKNOWN_METHOD,
-  };
-  std::uint32_t const expected[] = {1,  3,  5,  6,  8,  9,  10, 11, 12, 13, 14, 15,
-                                    16, 17, 18, 19, 20, 21, 22, 24, 25, 26, 27};
-  ASSERT_EQ(std::size(expected), std::size(codes));
-  for (std::size_t i = 0; i < std::size(codes); ++i)
-    EXPECT_EQ(expected[i], codes[i]);
 }
 
 } // namespace

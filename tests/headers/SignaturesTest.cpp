@@ -21,6 +21,9 @@ constexpr bool has(Signature*) {
 template <class Actual, class Expected>
 constexpr bool is = std::is_same_v<Actual, Expected*>;
 
+static_assert(!std::is_default_constructible_v<J>, "there are no objects of it");
+static_assert(!std::is_default_constructible_v<ClientUtils>, "there are no objects of it");
+
 static_assert(is<decltype(&J::createXMLBegin), Text(Text const&)>);
 static_assert(is<decltype(&J::createXMLClose), Text(Text const&)>);
 static_assert(is<decltype(&J::createXMLSchemaField), Text(Text const&)>);

@@ -73,7 +73,7 @@ using Items =
 struct Names {
   template <class Item>
   static std::string GetName(int) {
-    return comparison::KindOperations<Item, JournalServiceHelper>::name();
+    return comparison::KindOperations<Item, JournalServiceHelper>::NAME;
   }
 };
 TYPED_TEST_SUITE(AllocationCount, Items, Names);
@@ -89,7 +89,7 @@ TYPED_TEST(AllocationCount, OfDecodingIsThatOfCopyingTheResult) {
     auto const copying = this->inCopying(decoded);
     auto const names = this->besidesUnescapedNames(log);
     EXPECT_LE(decoding, copying + names + GROWTH) << size << " entries";
-    std::cout << Kind::name() << ", " << size << " entries: decoding allocates " << decoding
+    std::cout << Kind::NAME << ", " << size << " entries: decoding allocates " << decoding
               << " times, copying " << copying << ", short names of a long form " << names << "\n";
   }
 }
@@ -104,7 +104,7 @@ TYPED_TEST(AllocationCount, OfEncodingIsOneBesidesEscapedNames) {
     auto const encoding = countedIn([&] { message = Kind::respond(log, 1); });
     EXPECT_EQ(encoding, 1 + names) << size << " entries";
     EXPECT_FALSE(message.empty());
-    std::cout << Kind::name() << ", " << size << " entries: encoding allocates " << encoding
+    std::cout << Kind::NAME << ", " << size << " entries: encoding allocates " << encoding
               << " times, " << names << " of them for escaped names\n";
   }
 }

@@ -5,7 +5,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 namespace scenes {
 namespace {
@@ -17,7 +17,7 @@ using operations::Outputs;
 
 template <class Record>
 void fill(Record& record, std::string const& text) {
-  comparison::forEachField(record, [&text](auto& field) {
+  members::forEachValue(record, [&text](auto& field) {
     if constexpr (std::is_same_v<std::decay_t<decltype(field)>, std::string>)
       field = text + ", which no string holds in itself, & has <markup>";
   });
@@ -70,7 +70,7 @@ struct Messages {
 
 Messages messagesOf(int kind, Input const& input) {
   Messages messages;
-  for (auto const& operation : operations::all<JournalServiceHelper>()) {
+  for (auto const& operation : operations::all()) {
     if (operation.kind != kind || !operation.writesRecords)
       continue;
     Outputs outputs(input);

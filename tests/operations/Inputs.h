@@ -3,7 +3,6 @@
 #define TESTS_OPERATIONS_INPUTS_H
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -12,8 +11,10 @@
 #include <utility>
 #include <vector>
 
-#include "differential/RecordFields.h"
+#include "differential/Tokens.h"
+#include "members/Members.h"
 #include "operations/Operations.h"
+#include "vocabulary/Constants.h"
 
 namespace operations {
 
@@ -63,28 +64,6 @@ inline std::string const& someText(Random& random) {
   return random.oneOf(texts);
 }
 
-/// Elements that are asked for and put in, by their names.
-inline constexpr std::array elementNames = {
-    "Entry",          "LogList",
-    "Item",           "UniqueId",
-    "EntryId",        "Surname",
-    "Firstname",      "Picture",
-    "JSGroupBy",      "Viewed",
-    "Number",         "NumberType",
-    "ResolvedNumber", "ConnectedNumber",
-    "TimeDate",       "ConnectedNumberPriority",
-    "Duration",       "ConnectedNumberType",
-    "TargetLog",      "ConnectedSurname",
-    "DeflectName",    "ConnectedFirstName",
-    "DeflectNumber",  "NumberPresentation",
-    "TimeFormat",     "NamePresentation",
-    "Handle",         "DeflectNumberPresentation",
-    "Method",         "DeflectNumberType",
-    "ActionType",     "DeflectNamePresentation",
-    "CallLogEnabled", "UniqueIdToDelete",
-    "Value",          "",
-};
-
 /// What an edit puts into a message.
 inline std::string someToken(Random& random) {
   static std::string const others[] = {
@@ -94,7 +73,7 @@ inline std::string someToken(Random& random) {
       "BUSINESS1",  "-1",      "+12x",        " 3",       "99999999999",
       "2147483648", "<Entry",  "<Item/>",     "</LogLis", std::string(1, '\0'),
   };
-  std::string const name = random.oneOf(elementNames);
+  auto const& name = random.oneOf(vocabulary::elementNames());
   switch (random.below(8)) {
   case 0:
   case 1:
@@ -107,20 +86,6 @@ inline std::string someToken(Random& random) {
   default:
     return random.oneOf(others);
   }
-}
-
-/// A message cut into its tags and what stands between them.
-inline std::vector<std::string> tokensOf(std::string const& message) {
-  std::vector<std::string> tokens;
-  for (std::size_t at = 0; at < message.size();) {
-    auto end = message[at] == '<' ? message.find('>', at) : message.find('<', at);
-    if (end != std::string::npos && message[at] == '<')
-      ++end;
-    end = std::min(end, message.size());
-    tokens.push_back(message.substr(at, end - at));
-    at = end;
-  }
-  return tokens;
 }
 
 /// Inserts, deletes, replaces, swaps or repeats one token.
@@ -147,7 +112,8 @@ inline void edit(std::vector<std::string>& tokens, Random& random) {
 }
 
 inline std::string damaged(std::string const& message, std::uint32_t edits, Random& random) {
-  auto tokens = tokensOf(message);
+  auto const cut = differential::tokensOf(message);
+  std::vector<std::string> tokens(cut.begin(), cut.end());
   while (edits-- > 0)
     edit(tokens, random);
   std::string text;
@@ -158,7 +124,7 @@ inline std::string damaged(std::string const& message, std::uint32_t edits, Rand
 
 template <class Record>
 void fill(Record& record, Random& random) {
-  comparison::forEachField(record, [&random](auto& field) {
+  members::forEachValue(record, [&random](auto& field) {
     using Field = std::decay_t<decltype(field)>;
     if constexpr (std::is_same_v<Field, std::string>)
       field = someText(random);
@@ -202,7 +168,7 @@ inline void fillRecords(Input& input, Random& random) {
 
 /// Another element to ask for.
 inline void chooseElement(Input& input, Random& random) {
-  input.name = random.oneOf(elementNames);
+  input.name = random.oneOf(vocabulary::elementNames());
   input.begin = "<" + input.name + ">";
   input.close = "</" + input.name + ">";
 }

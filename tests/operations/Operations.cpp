@@ -1,6 +1,5 @@
-// How the table of operations is made: from each operation's parameters.
-#ifndef TESTS_OPERATIONS_OPERATIONTABLE_H
-#define TESTS_OPERATIONS_OPERATIONTABLE_H
+// The table of operations, each row made from the operation's parameters.
+#include "operations/Operations.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,11 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "operations/Operations.h"
-
 namespace operations {
-
-namespace detail {
+namespace {
 
 template <class Parameter>
 using Plain = std::remove_const_t<std::remove_reference_t<Parameter>>;
@@ -53,7 +49,7 @@ constexpr bool startsWithText = isText<First>;
 template <class First = void, class...>
 constexpr bool startsAtCursor = std::is_same_v<First, char const*>;
 
-// The output that a parameter stands for.
+// The output that is passed for a parameter.
 template <class Parameter, std::size_t index, class Where>
 auto& output(Where& out) {
   using Value = Plain<Parameter>;
@@ -144,79 +140,80 @@ Operation overload(char const* name, Signature* function) {
   return row(name, function);
 }
 
-} // namespace detail
-
-// The kind stands in the middle of the names, which only the preprocessor can vary.
-#define JOURNAL_ROW(NAME) detail::row(#NAME, &Operations::NAME)
+// The kind is part of the names, which only the preprocessor can vary.
+#define JOURNAL_ROW(NAME) row(#NAME, &JournalServiceHelper::NAME)
 #define JOURNAL_ROWS_OF_KIND(KIND)                                                                 \
   JOURNAL_ROW(createXML##KIND##CallItemBody), JOURNAL_ROW(createXML##KIND##CallInfoList),          \
       JOURNAL_ROW(getXML##KIND##CallInfo), JOURNAL_ROW(getXML##KIND##CallInfoList),                \
-      detail::overload<bool(char const*, KIND&)>("parseXML" #KIND "CallItem/cursor",               \
-                                                 &Operations::parseXML##KIND##CallItem),           \
-      detail::overload<bool(std::string const&, KIND&)>("parseXML" #KIND "CallItem/text",          \
-                                                        &Operations::parseXML##KIND##CallItem),    \
-      detail::overload<bool(std::string const&, std::deque<KIND>&)>(                               \
-          "parseXML" #KIND "CallList", &Operations::parseXML##KIND##CallList),                     \
-      detail::overload<bool(std::string const&, std::deque<KIND>&, unsigned int&)>(                \
-          "parseXML" #KIND "CallList/handle", &Operations::parseXML##KIND##CallList),              \
+      overload<bool(char const*, KIND&)>("parseXML" #KIND "CallItem/cursor",                       \
+                                         &JournalServiceHelper::parseXML##KIND##CallItem),         \
+      overload<bool(std::string const&, KIND&)>("parseXML" #KIND "CallItem/text",                  \
+                                                &JournalServiceHelper::parseXML##KIND##CallItem),  \
+      overload<bool(std::string const&, std::deque<KIND>&)>(                                       \
+          "parseXML" #KIND "CallList", &JournalServiceHelper::parseXML##KIND##CallList),           \
+      overload<bool(std::string const&, std::deque<KIND>&, unsigned int&)>(                        \
+          "parseXML" #KIND "CallList/handle", &JournalServiceHelper::parseXML##KIND##CallList),    \
       JOURNAL_ROW(reqGet##KIND##CallList), JOURNAL_ROW(reqDelete##KIND##Call),                     \
       JOURNAL_ROW(reqDelete##KIND##CallList), JOURNAL_ROW(read##KIND##CallList),                   \
       JOURNAL_ROW(delete##KIND##CallList), JOURNAL_ROW(respGet##KIND##CallList),                   \
       JOURNAL_ROW(obsReq##KIND##CallsUpdate)
 
-template <class Operations>
+} // namespace
+
 std::vector<Operation> all() {
   using Text = std::string const&;
   using Event = CallLogEntryEvent;
   return {
       JOURNAL_ROW(createXMLBegin),
       JOURNAL_ROW(createXMLClose),
-      detail::overload<std::string(Text, Text)>("createXMLField/text", &Operations::createXMLField),
-      detail::overload<std::string(Text, char const*)>("createXMLField/literal",
-                                                       &Operations::createXMLField),
-      detail::overload<std::string(Text, unsigned int)>("createXMLField/number",
-                                                        &Operations::createXMLField),
-      detail::overload<std::string(Text, bool)>("createXMLField/flag", &Operations::createXMLField),
+      overload<std::string(Text, Text)>("createXMLField/text",
+                                        &JournalServiceHelper::createXMLField),
+      overload<std::string(Text, char const*)>("createXMLField/literal",
+                                               &JournalServiceHelper::createXMLField),
+      overload<std::string(Text, unsigned int)>("createXMLField/number",
+                                                &JournalServiceHelper::createXMLField),
+      overload<std::string(Text, bool)>("createXMLField/flag",
+                                        &JournalServiceHelper::createXMLField),
       JOURNAL_ROW(createXMLSchemaField),
       JOURNAL_ROW(createXMLEntryIDList),
-      detail::overload<char const*(char const*, Text, Text, std::string&)>(
-          "getXMLValue/cursor,text", &Operations::getXMLValue),
-      detail::overload<char const*(char const*, Text, Text, bool&)>("getXMLValue/cursor,flag",
-                                                                    &Operations::getXMLValue),
-      detail::overload<bool(Text, Text, std::string&)>("getXMLValue/text",
-                                                       &Operations::getXMLValue),
-      detail::overload<bool(Text, Text, NumberType::NT&)>("getXMLValue/numberType",
-                                                          &Operations::getXMLValue),
-      detail::overload<bool(Text, Text, bool&)>("getXMLValue/flag", &Operations::getXMLValue),
-      detail::overload<bool(Text, Text, unsigned int&)>("getXMLValue/number",
-                                                        &Operations::getXMLValue),
+      overload<char const*(char const*, Text, Text, std::string&)>(
+          "getXMLValue/cursor,text", &JournalServiceHelper::getXMLValue),
+      overload<char const*(char const*, Text, Text, bool&)>("getXMLValue/cursor,flag",
+                                                            &JournalServiceHelper::getXMLValue),
+      overload<bool(Text, Text, std::string&)>("getXMLValue/text",
+                                               &JournalServiceHelper::getXMLValue),
+      overload<bool(Text, Text, NumberType::NT&)>("getXMLValue/numberType",
+                                                  &JournalServiceHelper::getXMLValue),
+      overload<bool(Text, Text, bool&)>("getXMLValue/flag", &JournalServiceHelper::getXMLValue),
+      overload<bool(Text, Text, unsigned int&)>("getXMLValue/number",
+                                                &JournalServiceHelper::getXMLValue),
       JOURNAL_ROW(getAndRemoveXMLValue),
-      detail::overload<std::string(NumberType::NT)>("convertNumberType/write",
-                                                    &Operations::convertNumberType),
-      detail::overload<NumberType::NT(Text)>("convertNumberType/read",
-                                             &Operations::convertNumberType),
-      detail::overload<std::string(Event::_TFormat)>("convertTimeFormat/write",
-                                                     &Operations::convertTimeFormat),
-      detail::overload<Event::_TFormat(Text)>("convertTimeFormat/read",
-                                              &Operations::convertTimeFormat),
-      detail::overload<std::string(Event::_PresentationValue)>(
-          "convertPresentationValue/write", &Operations::convertPresentationValue),
-      detail::overload<Event::_PresentationValue(Text)>("convertPresentationValue/read",
-                                                        &Operations::convertPresentationValue),
-      detail::overload<std::string(Event::_LogTarget)>("convertTargetLog/write",
-                                                       &Operations::convertTargetLog),
-      detail::overload<Event::_LogTarget(Text)>("convertTargetLog/read",
-                                                &Operations::convertTargetLog),
+      overload<std::string(NumberType::NT)>("convertNumberType/write",
+                                            &JournalServiceHelper::convertNumberType),
+      overload<NumberType::NT(Text)>("convertNumberType/read",
+                                     &JournalServiceHelper::convertNumberType),
+      overload<std::string(Event::_TFormat)>("convertTimeFormat/write",
+                                             &JournalServiceHelper::convertTimeFormat),
+      overload<Event::_TFormat(Text)>("convertTimeFormat/read",
+                                      &JournalServiceHelper::convertTimeFormat),
+      overload<std::string(Event::_PresentationValue)>(
+          "convertPresentationValue/write", &JournalServiceHelper::convertPresentationValue),
+      overload<Event::_PresentationValue(Text)>("convertPresentationValue/read",
+                                                &JournalServiceHelper::convertPresentationValue),
+      overload<std::string(Event::_LogTarget)>("convertTargetLog/write",
+                                               &JournalServiceHelper::convertTargetLog),
+      overload<Event::_LogTarget(Text)>("convertTargetLog/read",
+                                        &JournalServiceHelper::convertTargetLog),
       JOURNAL_ROW(respBool),
       JOURNAL_ROW(isNonFailureResponse),
       JOURNAL_ROW(addXMLHeaderFooter),
       JOURNAL_ROW(addSuccessResp),
       JOURNAL_ROW(getMethodFromXMLMsg),
       // It writes into the message, so it is given one of its own, and shows what became of that.
-      detail::row(
+      row(
           "parseLastUniqueId",
           +[](std::string& message, std::string& uniqueId) {
-            return Operations::parseLastUniqueId(message, uniqueId);
+            return JournalServiceHelper::parseLastUniqueId(message, uniqueId);
           }),
       JOURNAL_ROW(parseXMLEnabledStateItem),
       JOURNAL_ROWS_OF_KIND(Missed),
@@ -239,5 +236,3 @@ std::vector<Operation> all() {
 #undef JOURNAL_ROW
 
 } // namespace operations
-
-#endif

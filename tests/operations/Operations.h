@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "JournalServiceHelper.h"
+#include "members/Members.h"
 #include "resulthash/ResultHash.h"
 
 namespace operations {
@@ -22,7 +23,7 @@ using Dialled = DialledCallItem;
 using Received = ReceivedCallItem;
 using Forwarded = ForwardedCallItem;
 template <class Item>
-using InfoOf = typename decltype(Item::callInfoList)::value_type;
+using InfoOf = members::CallOf<Item>;
 
 /// What operations read. The first text of an operation is `text`, a second one `name`; a cursor's
 /// tags are `begin` and `close`.
@@ -89,14 +90,9 @@ struct Operation {
   std::function<void(Outputs const&, ResultHash&)> feed; // hashes what it wrote
 };
 
-/// The operations of a class that has them all, in the order of the header but for the kinds:
-/// all<JournalServiceHelper>() are the library's, all<Reference>() those of the plain
-/// implementation. The compiler needs long for a table, so each is made in a file of its own.
-template <class Operations>
+/// All operations of JournalServiceHelper, in the order of the header except that each kind has its
+/// operations together.
 std::vector<Operation> all();
-
-/// How many there are: all of JournalServiceHelper.
-constexpr std::size_t COUNT = 99;
 
 } // namespace operations
 

@@ -32,7 +32,7 @@ public:
   Guarded(Guarded const&) = delete;
   Guarded& operator=(Guarded const&) = delete;
 
-  bool stands() const { return pages_ != nullptr; }
+  bool isThere() const { return pages_ != nullptr; }
 
   /// The text, its first character behind a guard.
   char const* inFront(std::string const& text) {
@@ -51,7 +51,7 @@ private:
   char* pages_ = nullptr;
 };
 
-template <typename KindType>
+template <class KindType>
 class GuardedText : public ::testing::Test {
 protected:
   static void read(char const* text) {
@@ -67,15 +67,15 @@ protected:
 TYPED_TEST_SUITE(GuardedText, kinds::All, kinds::KindNames);
 
 TYPED_TEST(GuardedText, IsReadFromItsFirstCharacterToItsNul) {
-  auto const body = golden::message(std::string(TypeParam::NAME) + "-full");
+  auto const body = TypeParam::goldenBody(TypeParam::full());
   Guarded guarded(body.size());
-  ASSERT_TRUE(guarded.stands());
+  ASSERT_TRUE(guarded.isThere());
   for (std::size_t cut = 0; cut <= body.size(); ++cut) {
     this->read(guarded.inFront(body.substr(cut)));
     this->read(guarded.behind(body.substr(cut)));
     this->read(guarded.behind(body.substr(0, cut)));
   }
-  // Shorter than the value that mostly stands there.
+  // Shorter than the usual value, which the reader compares first.
   this->read(guarded.behind("<ConnectedNumberType></ConnectedNumberType>"));
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <type_traits>
 
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 namespace operations {
 
@@ -49,8 +49,8 @@ public:
 
   template <class Record>
   std::enable_if_t<std::is_class_v<Record>> feed(Record const& record) {
-    comparison::forEachField(record, [this](auto const& field) { this->feed(field); });
-    if constexpr (comparison::HasCalls<Record>::value)
+    members::forEachValue(record, [this](auto const& value) { this->feed(value); });
+    if constexpr (members::isEntry<Record>)
       feed(record.callInfoList);
   }
 

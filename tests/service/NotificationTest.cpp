@@ -8,19 +8,6 @@ namespace {
 
 std::string const DECLARATION = "<?xml version=\"1.0\" encoding=\"utf-8\"?>";
 
-std::string methodOf(kinds::Missed) {
-  return "<Method><missedCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Dialled) {
-  return "<Method><dialledCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Received) {
-  return "<Method><receivedCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Forwarded) {
-  return "<Method><forwardedCallsUpdate></Method>";
-}
-
 unsigned int codeOf(kinds::Missed) {
   return 22;
 }
@@ -41,15 +28,13 @@ int countOf(std::string const& piece, std::string const& text) {
   return count;
 }
 
-template <typename KindType>
+template <class KindType>
 class EntryNotification : public ::testing::Test {
 protected:
   using Action = JournalServiceObserverIfc::ActionType;
 
   static std::string front(typename KindType::Item const& item) {
-    std::string text = DECLARATION + methodOf(KindType());
-    KindType::writeBody(item, text, false);
-    return text;
+    return DECLARATION + KindType::updateMethod() + KindType::body(item);
   }
 };
 

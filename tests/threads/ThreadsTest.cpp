@@ -69,7 +69,7 @@ std::uint64_t resultOf(Operation const& operation, Input const& input) {
 
 TEST(Threads, UseEveryOperationAtOnce) {
   constexpr int rounds = 4;
-  auto const operations = operations::all<Library>();
+  auto const operations = operations::all();
   auto const inputs = sharedInputs();
   std::vector<std::uint64_t> expected;
   for (auto const& input : inputs)
