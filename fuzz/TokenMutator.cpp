@@ -16,7 +16,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 namespace {
 
-// A small generator of its own: the standard ones cost more than the rest of a mutation.
+// Not a standard generator: those cost more than the rest of a mutation.
 class Random {
 public:
   explicit Random(unsigned int seed) : state_(seed * 2654435769U + 1) {}
@@ -60,12 +60,12 @@ void mutate(Tokens& tokens, Random& random) {
   case 5:
     std::swap(tokens[any()], tokens[any()]);
     break;
-  case 6: { // A token once more, somewhere.
+  case 6: { // Repeats a token anywhere.
     auto const repeated = tokens[any()];
     tokens.insert(place(random.below(tokens.size() + 1)), repeated);
     break;
   }
-  default: { // A stretch of tokens once more, right behind itself.
+  default: { // Repeats several tokens in place.
     auto const from = any();
     auto const to = std::min(tokens.size(), from + 1 + random.below(8));
     Tokens const stretch(place(from), place(to));

@@ -1,8 +1,8 @@
 // Fuzzes the encoders with records built from the input, and the decoders with what they wrote.
 //
 // The first byte chooses the kind, the second the number of calls and what is written, the third
-// how the written text is read back. Behind them stand the fields in turn: a text up to the next
-// line feed, a flag or an enumeration in one byte.
+// how the written text is read back. The fields follow in their order: a text up to the next line
+// feed, a flag or an enumeration in one byte.
 #include <set>
 #include <string_view>
 
@@ -32,7 +32,7 @@ public:
     field = static_cast<Enumeration>(number());
   }
 
-  // Small numbers of either sign, and the two farthest ones.
+  // Small numbers of either sign, and the two extreme ones.
   std::int32_t number() {
     if (rest_.empty())
       return 0;

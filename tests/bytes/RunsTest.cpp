@@ -1,5 +1,5 @@
-// What the straight road looks for at once. An error here would only send readers another way to
-// the same result, and no test of results could see it.
+// The texts that the fast path compares at once. An error here would only make readers reach the
+// same result more slowly, and no test of results would notice.
 #include <cstddef>
 #include <iterator>
 #include <string>

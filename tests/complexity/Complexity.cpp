@@ -5,7 +5,7 @@
 //   journal_complexity list                    the names of the operations and shapes
 //
 // Under callgrind with --collect-atstart=no only the operations are counted, not what builds their
-// inputs, and each run is dumped by itself as "OPERATION SHAPE SIZE".
+// inputs, and each run is dumped separately as "OPERATION SHAPE SIZE".
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -33,7 +33,7 @@ void countedRun(Operation const& operation, Input const& input, std::string cons
   CALLGRIND_DUMP_STATS_AT(label.c_str());
 }
 
-// Those that depend on nothing that can grow are left out.
+// Leaves out those whose inputs cannot grow.
 std::vector<Operation> growingOperations() {
   std::vector<Operation> growing;
   for (auto const& operation : operations::all())

@@ -1,4 +1,4 @@
-// Enumerations to their texts and back, with every kind of value and text that is no member's.
+// Enumerations to their texts and back, and values and texts that belong to no member.
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -47,7 +47,7 @@ void expectMembersBothWays(Enumeration<E> const& enumeration) {
   }
 }
 
-// The last values share their low bytes with members: none may be cut down to a byte or a word.
+// The last values share their low bytes with members: none may be truncated.
 constexpr std::int32_t strayValues[] = {
     -1,
     -2,
@@ -74,8 +74,8 @@ template <class E>
 void expectFallbackText(Enumeration<E> const& enumeration) {
   for (std::int32_t value : strayValues)
     EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(value))) << value;
-  auto const behindTheLast = static_cast<std::int32_t>(members::enumerators<E>.size());
-  EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(behindTheLast)));
+  auto const afterTheLast = static_cast<std::int32_t>(members::enumerators<E>.size());
+  EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(afterTheLast)));
 }
 
 std::vector<std::string> nearMissesOf(std::string const& text) {
@@ -160,7 +160,7 @@ TEST(ConvertTargetLog, ReadsAnyOtherTextAsOutBusy) {
   expectFallbackMember(targetLog);
 }
 
-// In memory of its own, so that a sanitizer sees whatever is read in front of it.
+// On the heap, so that a sanitizer notices a read in front of the text.
 TEST(ConvertNumberType, LooksAtNothingInFrontOfAShortText) {
   for (std::string text : {"", "x"}) {
     text.reserve(1000);

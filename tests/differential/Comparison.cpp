@@ -15,7 +15,7 @@ namespace {
 
 using Library = JournalServiceHelper;
 
-// Compares the results of one operation. The description is put together only on a difference.
+// Compares the results of one operation. The description is built only when they differ.
 #define JOURNAL_COMPARE(OPERATION, INPUT, LIBRARY, REFERENCE)                                      \
   if (auto const library = (LIBRARY), reference = (REFERENCE); library != reference)               \
   return difference(OPERATION, INPUT, library, reference)
@@ -75,7 +75,7 @@ Difference compareAtCursor(char const* text, std::string const& name, Value cons
   return {};
 }
 
-// From the start and, so that the cursor has to move, from the begin tag on.
+// From the start of the text, and from the first begin tag, where the cursor has to move.
 template <class Value>
 Difference compareAtCursors(std::string const& text, std::string const& name, Value const& before) {
   auto const at = text.find("<" + name + ">");
@@ -126,7 +126,7 @@ void namesIn(std::string const& text, std::vector<std::string const*>& names) {
 }
 
 Difference compareElement(std::string const& text, std::string const& name, Reading reading) {
-  // What the flag is before takes turns, so that a flag left alone is told from either value.
+  // The flag starts as true or as false, so that one that is not set is noticed in some texts.
   bool const flag = text.size() % 2 == 0;
   switch (reading) {
   case Reading::textAtCursor:
@@ -251,7 +251,7 @@ Difference compareNumber(int value) {
 
 namespace {
 
-// The elements that are read in this turn.
+// The elements that are read from this text.
 std::vector<std::string const*> const& elementsInTurn(std::string const& text,
                                                       std::string const& about, unsigned int turn) {
   static thread_local std::vector<std::string const*> chosen;

@@ -11,7 +11,7 @@
 namespace comparison {
 namespace {
 
-// Fills every field with something that no message here holds, and no default.
+// Sets every field to something that is no default and occurs in no message here.
 struct Fill {
   void operator()(std::string& field) const { field = "before"; }
   void operator()(bool& field) const { field = true; }
@@ -91,8 +91,8 @@ public:
     return {};
   }
 
-  // The reference decodes each level once; what differs only in the argument's type or in the
-  // handle is compared with the same result.
+  // The reference decodes each level once; operations that differ only in the argument's type
+  // or in the handle are compared with the same result.
   static Difference compareAll(std::string const& text, Outputs outputs) {
     if (auto found = compareCall(text, outputs); !found.empty())
       return found;
@@ -202,7 +202,7 @@ private:
   }
 };
 
-// The text is compared with a copy of it afterwards: decoders must not write into it.
+// Also checks that the text has not been written into.
 template <class Compare>
 Difference unchanged(std::string const& text, Compare compare) {
   static thread_local std::string copy;

@@ -1,4 +1,4 @@
-// Numbered edits: the number is cut down by the count of each sort of edit in turn.
+// Numbered edits: the count of each sort of edit is subtracted in turn.
 #include "differential/Edits.h"
 
 #include <algorithm>
@@ -98,7 +98,7 @@ void Edits::apply(std::uint64_t edit, Tokens& tokens, std::string& touched) cons
   place.tell(touched);
 }
 
-// The first edit decides how many tokens, and so how many second edits there are.
+// The first edit changes the number of tokens, and so how many second edits there are.
 void Edits::applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) const {
   auto const counts = countsOf(tokens.size());
   struct Group {

@@ -1,4 +1,4 @@
-// Messages as the reference writes them, kept short so that many texts around them can be tested.
+// Messages as the reference writes them, kept short so that many texts near them can be tested.
 #include "differential/Messages.h"
 
 #include "differential/Edits.h"

@@ -1,5 +1,5 @@
-// Every record near a full and a sparse one, every word near a valid one and the numbers at the
-// boundaries, written by the library and by the reference.
+// Every record near a full and a sparse one, every word near a valid one and numbers at the
+// limits, written by the library and by the reference.
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -114,6 +114,11 @@ TYPED_TEST(WrittenRecords, WithEachTwoFieldsSet) {
           if (this->HasFatalFailure())
             return;
         }
+}
+
+// With nothing around the fields, an encoder once copied no bytes from a null pointer.
+TYPED_TEST(WrittenRecords, WithoutAnyValue) {
+  EXPECT_EQ(comparison::compareEncoders(TypeParam(), {}), "");
 }
 
 TYPED_TEST(WrittenRecords, WithSeveralCalls) {

@@ -29,7 +29,7 @@ ValueOf<Member> marked(Member const& member, ValueOf<Member> const& value) {
     return member.in(RecordOf<Member>());
 }
 
-// The record that is read from one with all members set.
+// What is read from a record with all members set.
 template <class Record>
 Record markedRecord() {
   Record record;
@@ -63,7 +63,7 @@ protected:
 
 TYPED_TEST_SUITE(Marked, kinds::All, kinds::KindNames);
 
-// Once asked for, a member's text gives the same again; other texts are asked for each time.
+// A reader remembers what a text of an enumeration was unescaped to, and asks again for any other.
 TYPED_TEST(Marked, EqualTextsReadTwice) {
   std::string const item = "<Item><NumberType>MOBILE</NumberType></Item>"
                            "<Item><NumberType>[MOBILE]</NumberType></Item>"
@@ -233,7 +233,7 @@ TEST(MarkedMessage, TextsReadFromAMessage) {
   EXPECT_EQ(value, "U()");
 }
 
-// The values that are made from a text are made from the unescaped one.
+// Flags, numbers and enumerations are made from the unescaped text.
 TEST(MarkedMessage, ValuesReadFromAMessage) {
   auto type = NumberType::PRIVATE;
   EXPECT_TRUE(Helper::getXMLValue("<NumberType>MOBILE</NumberType>", "NumberType", type));

@@ -1,4 +1,4 @@
-// Inputs with which every operation that allocates at all does so.
+// Inputs that make every operation allocate that allocates at all.
 #include "memory/Scenes.h"
 
 #include <string>
@@ -54,7 +54,7 @@ Input base() {
   return input;
 }
 
-// The raw texts go into messages without escaping, where markup would damage them.
+// Texts that are copied raw would damage a message with their markup.
 std::string withoutMarkup(std::string text) {
   std::string const markup = "<markup>";
   for (auto at = text.find(markup); at != std::string::npos; at = text.find(markup))

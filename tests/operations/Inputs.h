@@ -1,17 +1,13 @@
-// Inputs made by a generator of our own, so that they are the same on every machine.
+// Random inputs that are the same on every machine.
 #ifndef TESTS_OPERATIONS_INPUTS_H
 #define TESTS_OPERATIONS_INPUTS_H
 
-#include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <string>
 #include <tuple>
 #include <type_traits>
-#include <utility>
-#include <vector>
 
-#include "differential/Tokens.h"
 #include "members/Members.h"
 #include "operations/Operations.h"
 #include "vocabulary/Constants.h"
@@ -38,7 +34,7 @@ private:
   std::uint64_t state_;
 };
 
-/// Numbers at the borders of the signed and unsigned 32 bits, among others.
+/// Numbers at the limits of signed and unsigned 32 bits, among others.
 inline constexpr std::uint32_t numbers[] = {0,    1,          2,          9,         10,
                                             4711, 2147483647, 2147483648, 4294967295};
 
@@ -64,64 +60,6 @@ inline std::string const& someText(Random& random) {
   return random.oneOf(texts);
 }
 
-/// What an edit puts into a message.
-inline std::string someToken(Random& random) {
-  static std::string const others[] = {
-      "<",          "</",      ">",           "&",        "&am",
-      "&lt;",       " ",       "\n",          "\xff",     "True",
-      "true",       "Failure", "IN_ANSWERED", "ALLOWED",  "FORM",
-      "BUSINESS1",  "-1",      "+12x",        " 3",       "99999999999",
-      "2147483648", "<Entry",  "<Item/>",     "</LogLis", std::string(1, '\0'),
-  };
-  auto const& name = random.oneOf(vocabulary::elementNames());
-  switch (random.below(8)) {
-  case 0:
-  case 1:
-    return "<" + name + ">";
-  case 2:
-  case 3:
-    return "</" + name + ">";
-  case 4:
-    return "<" + name + ">" + someText(random) + "</" + name + ">";
-  default:
-    return random.oneOf(others);
-  }
-}
-
-/// Inserts, deletes, replaces, swaps or repeats one token.
-inline void edit(std::vector<std::string>& tokens, Random& random) {
-  if (tokens.empty())
-    tokens.push_back(someToken(random));
-  auto const at = tokens.begin() + random.below(tokens.size());
-  switch (random.below(5)) {
-  case 0:
-    tokens.insert(at, someToken(random));
-    break;
-  case 1:
-    tokens.erase(at);
-    break;
-  case 2:
-    *at = someToken(random);
-    break;
-  case 3:
-    std::swap(*at, tokens[random.below(tokens.size())]);
-    break;
-  default:
-    tokens.insert(at, std::string(tokens[random.below(tokens.size())]));
-  }
-}
-
-inline std::string damaged(std::string const& message, std::uint32_t edits, Random& random) {
-  auto const cut = differential::tokensOf(message);
-  std::vector<std::string> tokens(cut.begin(), cut.end());
-  while (edits-- > 0)
-    edit(tokens, random);
-  std::string text;
-  for (auto const& token : tokens)
-    text += token;
-  return text;
-}
-
 template <class Record>
 void fill(Record& record, Random& random) {
   members::forEachValue(record, [&random](auto& field) {
@@ -130,7 +68,7 @@ void fill(Record& record, Random& random) {
       field = someText(random);
     else if constexpr (std::is_same_v<Field, bool>)
       field = random.below(2) == 1;
-    else // one more than there are members, so that values outside occur
+    else // more than any enumeration has members, so that values outside occur
       field = static_cast<Field>(static_cast<std::int32_t>(random.below(8)));
   });
 }

@@ -209,7 +209,7 @@ std::vector<Operation> all() {
       JOURNAL_ROW(addXMLHeaderFooter),
       JOURNAL_ROW(addSuccessResp),
       JOURNAL_ROW(getMethodFromXMLMsg),
-      // It writes into the message, so it is given one of its own, and shows what became of that.
+      // It writes into the message, so it is given a copy, which is an output.
       row(
           "parseLastUniqueId",
           +[](std::string& message, std::string& uniqueId) {

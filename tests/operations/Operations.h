@@ -1,5 +1,5 @@
-// Every operation in one table, to be run on one kind of input and to write into one kind of
-// output, whatever its parameters are.
+// A table of all operations. Each row runs on the same type of input and writes into the same type
+// of output, whatever the operation's parameters are.
 #ifndef TESTS_OPERATIONS_OPERATIONS_H
 #define TESTS_OPERATIONS_OPERATIONS_H
 
@@ -45,7 +45,7 @@ struct Outputs {
   explicit Outputs(Input const& input) : edited(input.text), argument(input.name) {}
 
   std::string edited;   // a text that is both read and written
-  std::string argument; // a text that is handed over by value
+  std::string argument; // a text that is passed by value
   std::string text = "held before";
   bool flag = true;
   unsigned int number = 77;
@@ -58,7 +58,7 @@ struct Outputs {
              std::deque<Dialled>, std::deque<Received>, std::deque<Forwarded>>
       records;
 
-  /// Puts the input's records into the outputs, so that decoders find outputs in use.
+  /// Puts the input's records into the outputs, so that decoders are given records in use.
   void fill(Input const& input) {
     fillKind<Missed>(input);
     fillKind<Dialled>(input);

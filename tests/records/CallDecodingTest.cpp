@@ -100,7 +100,7 @@ TYPED_TEST(CallDecoding, EnumerationsAndFlagsAreReadByTheirExactTexts) {
   });
 }
 
-// Texts of every length, one behind the other in one list, so that none leaves a trace in the next.
+// Texts of every length, one after the other in one list, so that a trace of one in the next shows.
 TYPED_TEST(CallDecoding, TextsOfEveryLength) {
   typename TypeParam::InfoList expected;
   std::string text = "<LogList>";
@@ -151,7 +151,7 @@ TYPED_TEST(CallDecoding, AnEmptyElementIsAnEmptyText) {
   EXPECT_EQ(call.numberType, NumberType::NO_ICON);
 }
 
-// The names that are passed over move the cursor all the same.
+// The names that are not kept still move the cursor.
 TEST(DecodedCall, NamesPassedOverMoveTheCursor) {
   std::string const nested = "<ConnectedSurname><TimeDate>in</TimeDate></ConnectedSurname>"
                              "<TimeDate>out</TimeDate>";
@@ -211,7 +211,7 @@ TEST(DecodedDialledCall, NamePresentationIsReadBetweenTwoBeginTags) {
        Event::NOT_AVAILABLE, Event::FORM_24},
       {"<NamePresentation><NamePresentation>ALLOWED</NamePresentation>", Event::NOT_AVAILABLE,
        Event::FORM_24},
-      // At the cursor, the two begin tags hide what lies between them; behind it, they do not.
+      // At the cursor, the two begin tags hide what is between them; further on, they do not.
       {"<NamePresentation><TimeFormat>FORM_AM</TimeFormat><NamePresentation>", Event::NOT_AVAILABLE,
        Event::FORM_24},
       {"x<NamePresentation><TimeFormat>FORM_AM</TimeFormat><NamePresentation>",
@@ -228,7 +228,7 @@ TEST(DecodedDialledCall, NamePresentationIsReadBetweenTwoBeginTags) {
   }
 }
 
-// The other kinds read NamePresentation as any element.
+// The other kinds read NamePresentation like any other element.
 TEST(DecodedCall, NamePresentationOfTheOtherKinds) {
   std::string const text = "<NamePresentation>ALLOWED</NamePresentation>";
   EXPECT_EQ(callIn<Missed>(text).namePresentation, CallLogEntryEvent::ALLOWED);

@@ -196,7 +196,7 @@ TEST(DecodedDialledItem, TheAnswerToTheLastDialledNumber) {
   EXPECT_EQ(item, Dialled::decodedFull());
 }
 
-// What one kind reads, another passes over.
+// What one kind reads, another ignores.
 TEST(DecodedItems, ElementsOfOtherKinds) {
   ReceivedCallItem received;
   Received::readItem("<Viewed><LogList><Item>x</Item></LogList></Viewed>", received);

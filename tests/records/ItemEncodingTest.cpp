@@ -71,7 +71,7 @@ TYPED_TEST(ItemEncoding, CallsKeepTheirOrder) {
   EXPECT_EQ(this->calls(item), open + expected + close);
 }
 
-// Each text at every length, behind an output that leaves more or less room.
+// Texts of every length, appended to outputs with more and with less capacity left.
 TYPED_TEST(ItemEncoding, TextsOfEveryLength) {
   auto const fresh = TypeParam::body({});
   auto const flags = fresh.substr(0, fresh.find("<LogList></LogList>"));

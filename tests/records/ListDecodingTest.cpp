@@ -70,7 +70,7 @@ TYPED_TEST(ListDecoding, Entries) {
       {"<Entry><Entry><UniqueId>1</UniqueId></Entry><UniqueId>2</UniqueId></Entry>", "[1]"},
       {"<Entry><Entry></Entry><UniqueId>2</UniqueId></Entry>", "[]"},
       {"<Entry>a<Entry>b</Entry><Entry><UniqueId>2</UniqueId></Entry>", "[][2]"},
-      // What surrounds the entries is passed over.
+      // What surrounds the entries is ignored.
       {"<UniqueId>0</UniqueId><Entry>x</Entry><UniqueId>1</UniqueId>\n"
        "<Entry><UniqueId>2</UniqueId></Entry></Entry><UniqueId>3</UniqueId>",
        "[][2]"},
@@ -146,7 +146,7 @@ TYPED_TEST(ListDecoding, Handles) {
       {"<Handle>-2147483649</Handle>", 2147483648U},
       {"<Handle>4&lt;2</Handle>", 4},
       {"<Handle>&lt;Handle&gt;</Handle>", 0},
-      // Before, between, behind and inside the entries.
+      // Before, between, after and inside the entries.
       {"<Handle>42</Handle><Entry>x</Entry>", 42},
       {"<Entry>x</Entry><Handle>42</Handle><Entry>x</Entry>", 42},
       {"<Entry>x</Entry><Handle>42</Handle>", 42},
@@ -199,8 +199,8 @@ TYPED_TEST(ListDecoding, AResponseComesBack) {
   EXPECT_EQ(handle, TypeParam::HANDLE);
 }
 
-// An entry is read to its end, behind its list too.
-TYPED_TEST(ListDecoding, ElementsBehindTheList) {
+// An entry is read to its end, past its list too.
+TYPED_TEST(ListDecoding, ElementsAfterTheList) {
   std::string const list = "<LogList><Item><Number>1</Number></Item></LogList>";
   typename TypeParam::Log items;
   TypeParam::readLog("<Entry>" + list +

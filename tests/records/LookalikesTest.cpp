@@ -84,8 +84,8 @@ TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
       }
 }
 
-// Each element of a usual call on its own: missing, there twice, in another's place, and with one
-// in front that such a call does not have.
+// Each element of a usual call missing, repeated, in another's place, and preceded by one that such
+// a call does not have.
 TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverElementIsElsewhere) {
   auto const body = this->usualBody();
   auto const item = body.find("<Item>") + 6;
@@ -128,7 +128,7 @@ TYPED_TEST(Lookalikes, AreNotReadWhereACloseTagFollowsAnEmptyItem) {
 
 // Each piece makes a reader look for a close tag that is nowhere. A reader that looked again for
 // each piece would not finish before the test's timeout; the time itself is not measured here.
-TYPED_TEST(Lookalikes, OfPiecesWithoutAnEndAreGivenUpAtOnce) {
+TYPED_TEST(Lookalikes, OfPiecesWithoutCloseTagAreRejectedAtOnce) {
   constexpr int pieces = 400000;
   std::string items;
   std::string entries;

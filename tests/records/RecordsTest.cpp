@@ -1,4 +1,4 @@
-// The records themselves: what a fresh one holds, and how they copy.
+// The records themselves: what a new one holds, and how they are copied.
 #include <type_traits>
 
 #include "records/TestedKinds.h"

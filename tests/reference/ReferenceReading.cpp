@@ -6,7 +6,7 @@
 
 namespace {
 
-// The readers of one element: each moves the cursor as getXMLValue tells.
+// The readers of one element. Each moves the cursor to where getXMLValue returns.
 
 void read(char const*& cursor, std::string const& name, std::string& field) {
   cursor = Reference::getXMLValue(cursor, "<" + name + ">", "</" + name + ">", field);
@@ -41,8 +41,8 @@ void read(char const*& cursor, std::string const& name, CallLogEntryEvent::_TFor
   field = Reference::convertTimeFormat(word);
 }
 
-// What stands between each begin tag and the next close tag, the empty ones left out. A piece that
-// is not closed ends the search.
+// The texts between each begin tag and the next close tag, without empty ones. A piece that is not
+// closed ends the search.
 std::vector<std::string> pieces(std::string const& text, std::string const& begin,
                                 std::string const& close) {
   std::vector<std::string> found;
@@ -112,8 +112,8 @@ bool Reference::getXMLMissedCallInfo(char const* xml, MissedCallItem::MissedCall
   return true;
 }
 
-// The priority is read in front of the connected number, behind which it is written. The name
-// presentation has its begin tag for a close tag too.
+// The priority is written after the connected number, but read before it. The close tag of the name
+// presentation is its begin tag.
 bool Reference::getXMLDialledCallInfo(char const* xml, DialledCallItem::DialledCallInfo& info) {
   char const* cursor = xml;
   read(cursor, "Number", info.number);

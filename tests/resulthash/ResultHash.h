@@ -12,8 +12,9 @@
 
 namespace operations {
 
-/// Takes numbers as 32 bits, the lowest byte first, and texts and lists with their length in front,
-/// so that neither word size nor byte order shows, nor where one value ends and the next begins.
+/// Takes numbers as 32 bits, the lowest byte first, so that it depends neither on word size nor on
+/// byte order; and texts and lists with their length in front, so that no two sequences of values
+/// are fed alike.
 class ResultHash {
 public:
   std::uint64_t value() const { return value_; }

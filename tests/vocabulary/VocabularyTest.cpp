@@ -55,8 +55,8 @@ TEST(Vocabulary, KeepsTheDifferencesBetweenSimilarWords) {
   EXPECT_EQ("CallLogEnabled", J::CALL_LOG_ENABLED);
 }
 
-// A pair of tags is named after the constant that holds its element's name. Two are irregular: the
-// name of Enabled is called otherwise, and Handle has no name constant.
+// A pair of tags is named after the constant that holds its element's name. Two are irregular:
+// ENABLED belongs to CALL_LOG_ENABLED, and the name of Handle has no constant.
 TEST(TagPairs, HoldTheirElementNameInBrackets) {
   int pairs = 0;
   for (auto const& word : words) {
