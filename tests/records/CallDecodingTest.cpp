@@ -1,7 +1,6 @@
 // One call read: the elements inside an Item.
 #include <vector>
 
-#include "records/MemberValues.h"
 #include "records/TestedKinds.h"
 
 using kinds::Dialled;
@@ -44,60 +43,6 @@ TYPED_TEST(CallDecoding, ANullPointerReadsAsAnEmptyText) {
 TYPED_TEST(CallDecoding, TheTextIsUnescaped) {
   EXPECT_EQ(callIn<TypeParam>("<Number>&lt;1&gt; &amp;amp; &quot;&apos; & &x;</Number>").number,
             "<1> &amp; \"' & &x;");
-}
-
-// A member's name, and texts that are nearly one: longer, shorter, or with one byte altered.
-std::vector<std::string> nearMissesOf(std::string const& name) {
-  std::vector<std::string> texts = {name,       name + " ",  " " + name,
-                                    name + "x", name + "\n", name.substr(0, name.size() - 1)};
-  for (std::size_t at = 0; at < name.size(); ++at)
-    for (char const other : {'~', static_cast<char>(name[at] ^ 0x20)}) {
-      texts.push_back(name);
-      texts.back()[at] = other;
-    }
-  return texts;
-}
-
-template <class Value>
-Value valueOf(std::string const& text, Value fallback) {
-  if constexpr (std::is_same_v<Value, bool>)
-    return text == "True";
-  else {
-    for (auto const& enumerator : members::enumerators<Value>)
-      if (enumerator.name == text)
-        return enumerator.value;
-    return fallback;
-  }
-}
-
-template <class Value>
-std::vector<std::string> namesOf() {
-  std::vector<std::string> names;
-  if constexpr (std::is_same_v<Value, bool>)
-    names = {"True", "False"};
-  else
-    for (auto const& enumerator : members::enumerators<Value>)
-      names.emplace_back(enumerator.name);
-  return names;
-}
-
-TYPED_TEST(CallDecoding, EnumerationsAndFlagsAreReadByTheirExactTexts) {
-  using Info = typename TypeParam::Info;
-  members::forEachField<Info>([](auto const& member) {
-    using Value = records::ValueOf<decltype(member)>;
-    if constexpr (!std::is_same_v<Value, std::string>) {
-      if (member.travel != members::Travel::bothWays)
-        return;
-      std::vector<std::string> texts = {"", "0", "1", "TRUE", "true", "&amp;"};
-      for (auto const& name : namesOf<Value>())
-        for (auto const& text : nearMissesOf(name))
-          texts.push_back(text);
-      for (auto const& text : texts) {
-        auto const call = callIn<TypeParam>(kinds::tagged(std::string(member.element), text));
-        EXPECT_EQ(member.in(call), valueOf(text, member.in(Info()))) << member.name << " " << text;
-      }
-    }
-  });
 }
 
 // Texts of every length, one after the other in one list, so that a trace of one in the next shows.

@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "convert/NearMisses.h"
 #include "records/MemberValues.h"
 #include "records/TestedKinds.h"
 #include "vocabulary/Constants.h"
@@ -125,6 +126,53 @@ TYPED_TEST(EveryMember, IsSetWhenARecordIsReadInPlace) {
         } else if (member.travel == Travel::never) {
           EXPECT_EQ(member.in(with), member.in(before));
         }
+      }
+    }
+  });
+}
+
+template <class Value>
+Value valueOf(std::string const& text, Value fallback) {
+  if constexpr (std::is_same_v<Value, bool>)
+    return text == "True";
+  else {
+    for (auto const& enumerator : members::enumerators<Value>)
+      if (enumerator.name == text)
+        return enumerator.value;
+    return fallback;
+  }
+}
+
+template <class Value>
+std::vector<std::string> namesOf() {
+  std::vector<std::string> names;
+  if constexpr (std::is_same_v<Value, bool>)
+    names = {"True", "False"};
+  else
+    for (auto const& enumerator : members::enumerators<Value>)
+      names.emplace_back(enumerator.name);
+  return names;
+}
+
+// Flags and enumerations are read from their exact texts alone, whatever is nearly one.
+TYPED_TEST(EveryMember, ThatIsNoTextIsReadFromItsExactTexts) {
+  this->forEach([](auto const& member) {
+    using Member = std::decay_t<decltype(member)>;
+    using Value = ValueOf<Member>;
+    if constexpr (!std::is_class_v<Value>) {
+      if (member.travel != Travel::bothWays)
+        return;
+      auto const unset = member.in(RecordOf<Member>());
+      std::vector<std::string> texts = {"", "0", "1", "TRUE", "true", "&amp;"};
+      for (auto const& name : namesOf<Value>()) {
+        texts.push_back(name);
+        for (auto const& text : nearMissesOf(name))
+          texts.push_back(text);
+      }
+      for (auto const& text : texts) {
+        RecordOf<Member> record;
+        TestFixture::readInPlace(kinds::tagged(std::string(member.element), text), record);
+        EXPECT_EQ(member.in(record), valueOf(text, unset)) << member.name << " " << text;
       }
     }
   });

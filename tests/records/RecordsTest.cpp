@@ -65,22 +65,4 @@ TYPED_TEST(Records, ACopyHoldsItsOwnCalls) {
   EXPECT_EQ(source.callInfoList.back().number, "third");
 }
 
-TYPED_TEST(Records, ACopyOfAnEntryWithoutCallsHasNone) {
-  typename TypeParam::Item source = TypeParam::full();
-  source.callInfoList.clear();
-  typename TypeParam::Item const copy = source;
-  EXPECT_EQ(copy, source);
-  EXPECT_TRUE(copy.callInfoList.empty());
-}
-
-TYPED_TEST(Records, AssigningReplacesLongerAndShorterLists) {
-  typename TypeParam::Item const one = TypeParam::sparse();
-  typename TypeParam::Item const two = TypeParam::full();
-  typename TypeParam::Item target = two;
-  target = one;
-  EXPECT_EQ(target, one);
-  target = two;
-  EXPECT_EQ(target, two);
-}
-
 } // namespace
