@@ -1,4 +1,4 @@
-// Shared by the fuzz targets: how a difference ends the run, and how the input is laid out.
+// Shared by the fuzz targets: what happens on a difference, and how the input is laid out.
 #ifndef FUZZ_FUZZ_H
 #define FUZZ_FUZZ_H
 
@@ -10,8 +10,8 @@
 
 namespace fuzz {
 
-/// How many bytes at the front of the input choose what is run; the text stands behind them. Each
-/// target defines it, and the mutator leaves these bytes in place.
+/// How many bytes at the front of the input choose what is run; the text follows them. Each target
+/// defines it, and the mutator does not move these bytes.
 extern std::size_t const selectorBytes;
 
 /// Ends the run when the library and the reference differ.

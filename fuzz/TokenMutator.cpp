@@ -1,5 +1,5 @@
 // The mutator of the fuzz targets: it inserts, deletes, replaces, exchanges and repeats whole tags
-// and values, by turns with the fuzzer's own changes of bytes.
+// and values. Half of the mutations are left to the fuzzer itself, which changes bytes.
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -8,6 +8,7 @@
 
 #include "Fuzz.h"
 #include "differential/Messages.h"
+#include "differential/Tokens.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
@@ -15,7 +16,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 namespace {
 
-// A small generator of its own: the standard ones cost more than the rest of a mutation.
+// Not a standard generator: those cost more than the rest of a mutation.
 class Random {
 public:
   explicit Random(unsigned int seed) : state_(seed * 2654435769U + 1) {}
@@ -36,19 +37,7 @@ std::string_view letter(Random& random) {
   return letters[random.below(letters.size())];
 }
 
-using Tokens = std::vector<std::string_view>;
-
-// Tags, and what stands between them; a "<" that begins no tag is a token with what follows.
-void cut(std::string_view text, Tokens& tokens) {
-  tokens.clear();
-  while (!text.empty()) {
-    auto end = text.find(text.front() == '<' ? '>' : '<', 1);
-    if (text.front() == '<' && end != std::string_view::npos)
-      ++end;
-    tokens.push_back(text.substr(0, end));
-    text.remove_prefix(tokens.back().size());
-  }
-}
+using differential::Tokens;
 
 void mutate(Tokens& tokens, Random& random) {
   using Difference = Tokens::difference_type;
@@ -71,12 +60,12 @@ void mutate(Tokens& tokens, Random& random) {
   case 5:
     std::swap(tokens[any()], tokens[any()]);
     break;
-  case 6: { // A token once more, somewhere.
+  case 6: { // Repeats a token anywhere.
     auto const repeated = tokens[any()];
     tokens.insert(place(random.below(tokens.size() + 1)), repeated);
     break;
   }
-  default: { // A stretch of tokens once more, right behind itself.
+  default: { // Repeats several tokens in place.
     auto const from = any();
     auto const to = std::min(tokens.size(), from + 1 + random.below(8));
     Tokens const stretch(place(from), place(to));
@@ -89,14 +78,13 @@ void mutate(Tokens& tokens, Random& random) {
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t maxSize, unsigned int seed) {
-  static Tokens tokens;
   static std::string text;
   Random random(seed);
   if (size < fuzz::selectorBytes || random.below(2) == 0)
     return LLVMFuzzerMutate(data, size, maxSize);
 
   auto const front = fuzz::selectorBytes;
-  cut({reinterpret_cast<char const*>(data) + front, size - front}, tokens);
+  auto tokens = differential::tokensOf({reinterpret_cast<char const*>(data) + front, size - front});
   for (auto edits = 1 + random.below(2); edits > 0; --edits)
     mutate(tokens, random);
   text.clear();

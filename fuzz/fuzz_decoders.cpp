@@ -1,5 +1,5 @@
-// Fuzzes the decoders: the first byte chooses the kind of log and what the outputs hold before, the
-// second how much is decoded, from one call up to a whole log.
+// Fuzzes the decoders. The first byte chooses the kind of log and what the outputs hold before; the
+// second chooses how much is decoded, from one call up to a whole log.
 #include "Fuzz.h"
 #include "differential/Comparison.h"
 

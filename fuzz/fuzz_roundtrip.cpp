@@ -1,15 +1,15 @@
 // Fuzzes the encoders with records built from the input, and the decoders with what they wrote.
 //
 // The first byte chooses the kind, the second the number of calls and what is written, the third
-// how the written text is read back. Behind them stand the fields in turn: a text up to the next
-// line feed, a flag or an enumeration in one byte.
+// how the written text is read back. The fields follow in their order: a text up to the next line
+// feed, a flag or an enumeration in one byte.
 #include <set>
 #include <string_view>
 
 #include "Fuzz.h"
 #include "differential/Comparison.h"
 #include "differential/KindOperations.h"
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 std::size_t const fuzz::selectorBytes = 3;
 
@@ -32,7 +32,7 @@ public:
     field = static_cast<Enumeration>(number());
   }
 
-  // Small numbers of either sign, and the two farthest ones.
+  // Small numbers of either sign, and the two extreme ones.
   std::int32_t number() {
     if (rest_.empty())
       return 0;
@@ -50,10 +50,10 @@ void run(comparison::Kind kind, std::uint8_t const* selectors, std::string_view 
   Fields fields(input);
   auto const fill = [&fields](auto& field) { fields(field); };
   Item item;
-  comparison::forEachField(item, fill);
+  members::forEachValue(item, fill);
   item.callInfoList.resize(selectors[1] % 4);
   for (auto& call : item.callInfoList)
-    comparison::forEachField(call, fill);
+    members::forEachValue(call, fill);
 
   comparison::Notice notice;
   notice.action = static_cast<JournalServiceObserverIfc::ActionType>(fields.number());
@@ -81,18 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   std::string_view const input(reinterpret_cast<char const*>(data) + fuzz::selectorBytes,
                                size - fuzz::selectorBytes);
   auto const kind = static_cast<comparison::Kind>(data[0] % comparison::KINDS);
-  switch (kind) {
-  case comparison::Kind::missed:
-    run<MissedCallItem>(kind, data, input);
-    break;
-  case comparison::Kind::dialled:
-    run<DialledCallItem>(kind, data, input);
-    break;
-  case comparison::Kind::received:
-    run<ReceivedCallItem>(kind, data, input);
-    break;
-  case comparison::Kind::forwarded:
-    run<ForwardedCallItem>(kind, data, input);
-  }
+  comparison::withKind(
+      kind, [&](auto const& item) { run<std::decay_t<decltype(item)>>(kind, data, input); });
   return 0;
 }

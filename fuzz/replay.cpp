@@ -1,5 +1,5 @@
-// Runs a fuzz target over the files of the folders given, without a fuzzer. A difference ends the
-// program as it ends the fuzzer; so do folders without any file.
+// Runs a fuzz target over the files of the folders given, without a fuzzer. The program
+// fails on a difference, and when there are no files.
 #include <filesystem>
 #include <fstream>
 #include <iostream>

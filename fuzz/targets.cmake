@@ -4,8 +4,8 @@ set(JOURNAL_FUZZ_TARGETS
   fuzz_extractors fuzz_messages fuzz_decoders fuzz_roundtrip fuzz_escaping)
 
 # The reference, and the comparison of the library with it.
-get_filename_component(journal_tests ${JOURNAL_FUZZ_DIR}/../tests ABSOLUTE)
+set(journal_tests ${PROJECT_SOURCE_DIR}/tests)
 file(GLOB JOURNAL_FUZZ_COMPARISON CONFIGURE_DEPENDS
   ${journal_tests}/reference/*.cpp ${journal_tests}/differential/*.cpp)
 list(FILTER JOURNAL_FUZZ_COMPARISON EXCLUDE REGEX "Test\\.cpp$")
-set(JOURNAL_FUZZ_INCLUDES ${JOURNAL_FUZZ_DIR} ${journal_tests})
+set(JOURNAL_FUZZ_INCLUDES ${JOURNAL_FUZZ_DIR} ${journal_tests} ${PROJECT_SOURCE_DIR})

@@ -204,6 +204,19 @@ constexpr void forEachField(Visit&& visit) {
   });
 }
 
+/// Calls visit(value) for the record's own value of every member but the list of calls.
+template <class Record, class Visit>
+constexpr void forEachValue(Record& record, Visit&& visit) {
+  forEachField<std::remove_const_t<Record>>([&](auto const& member) { visit(member.in(record)); });
+}
+
+/// Whether a type is one of the eight records.
+template <class Type, class = void>
+inline constexpr bool isRecord = false;
+template <class Type>
+inline constexpr bool
+    isRecord<Type, std::void_t<decltype(membersOf(static_cast<Type const*>(nullptr)))>> = true;
+
 /// Whether a record is an entry, with a list of calls.
 template <class Record, class = void>
 inline constexpr bool isEntry = false;

@@ -1,5 +1,5 @@
-// The search for an ampersand, at every place of texts of every size, among other bytes and among
-// those that are nearest to it.
+// The search for an ampersand: at every position in texts of every size, among other bytes and
+// among those that are most like it.
 #include <cstddef>
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
-// Comparing, scanning and copying bytes by words: for every size and place, against the plain way.
-// On the readers' straight road an error here would only send more texts to the general road, and
-// no test of results could see it.
+// Comparing, scanning and copying bytes by words: for every size and position, compared with the
+// plain way. In the readers' fast path an error here would only send more texts to the fallback,
+// and no test of results would notice.
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -36,12 +36,12 @@ TEST(SameBytes, AreSameOnlyIfEachOneIs) {
   }
 }
 
-TEST(SameFront, IsSameWhateverStandsBehind) {
-  constexpr std::size_t room = 16;
-  for (std::size_t size = 0; size <= room; ++size)
-    for (std::size_t at = 0; at < room; ++at)
+TEST(SameFront, IsSameWhateverFollows) {
+  constexpr std::size_t block = 16;
+  for (std::size_t size = 0; size <= block; ++size)
+    for (std::size_t at = 0; at < block; ++at)
       for (auto const difference : differences) {
-        auto const left = bytes(room);
+        auto const left = bytes(block);
         auto right = left;
         EXPECT_TRUE(journal::sameFront(left.data(), right.data(), size)) << size;
         right[at] = static_cast<char>(right[at] ^ difference);
@@ -53,7 +53,7 @@ TEST(SameFront, IsSameWhateverStandsBehind) {
 TEST(CopyBytes, CopiesThemAndNothingElse) {
   constexpr std::size_t around = 40;
   for (std::size_t size = 0; size <= 100; ++size) {
-    auto const from = bytes(size == 0 ? 1 : size); // the bytes of a text are never nowhere
+    auto const from = bytes(size == 0 ? 1 : size); // a text's bytes are never at a null pointer
     std::string const copied(from.data(), size);
     std::string to(around + size + around, '.');
     journal::copyBytes(&to[around], from.data(), size);
@@ -61,7 +61,7 @@ TEST(CopyBytes, CopiesThemAndNothingElse) {
   }
 }
 
-TEST(FindByteOrNul, FindsTheFirstAndNothingBehindTheEnd) {
+TEST(FindByteOrNul, FindsTheFirstAndNothingPastTheEnd) {
   for (char const wanted : {'<', '\0'})
     for (char const other : {'<', '\0', '='})
       for (std::size_t size = 0; size <= 70; ++size)

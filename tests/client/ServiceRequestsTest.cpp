@@ -1,6 +1,4 @@
-// The requests to the journal service, byte for byte.
-#include <cstdint>
-#include <iterator>
+// The ids in requests to the journal service. The golden messages hold one of each request.
 #include <set>
 #include <string>
 
@@ -16,54 +14,28 @@ using Ids = std::set<std::string>;
 
 std::string const declaration = "<?xml version=\"1.0\" encoding=\"utf-8\"?>";
 
-struct PlainRequest {
-  std::string (*build)();
-  char const* method;
-  std::uint32_t code;
-};
-constexpr PlainRequest plainRequests[] = {
-    {&J::reqGetMissedCallList, "<Method><getMissedCallList></Method>", 1},
-    {&J::reqGetDialledCallList, "<Method><getDialledCallList></Method>", 8},
-    {&J::reqGetLastDialledNumber, "<Method><getLastDialledNumber></Method>", 17},
-    {&J::reqGetReceivedCallList, "<Method><getReceivedCallList></Method>", 11},
-    {&J::reqGetForwardedCallList, "<Method><getForwardedCallList></Method>", 14},
-    {&J::reqSubscribe, "<Method><subscribe></Method>", 18},
-    {&J::reqUnsubscribe, "<Method><unsubscribe></Method>", 19},
-    {&J::reqRefreshCallLog, "<Method><refreshCallLog></Method>", 20},
-};
-
 struct EntryRequest {
   std::string (*build)(std::string const&);
   char const* method;
-  std::uint32_t code;
 };
 constexpr EntryRequest entryRequests[] = {
-    {&J::reqDeleteMissedCall, "<Method><deleteMissedCall></Method>", 5},
-    {&J::reqDeleteDialledCall, "<Method><deleteDialledCall></Method>", 9},
-    {&J::reqDeleteReceivedCall, "<Method><deleteReceivedCall></Method>", 12},
-    {&J::reqDeleteForwardedCall, "<Method><deleteForwardedCall></Method>", 15},
+    {&J::reqDeleteMissedCall, "<Method><deleteMissedCall></Method>"},
+    {&J::reqDeleteDialledCall, "<Method><deleteDialledCall></Method>"},
+    {&J::reqDeleteReceivedCall, "<Method><deleteReceivedCall></Method>"},
+    {&J::reqDeleteForwardedCall, "<Method><deleteForwardedCall></Method>"},
 };
 
 struct EntriesRequest {
   std::string (*build)(Ids const&);
   char const* method;
-  std::uint32_t code;
 };
 constexpr EntriesRequest entriesRequests[] = {
-    {&J::reqSetMissedCallListAsViewed, "<Method><setMissedCallListAsViewed></Method>", 3},
-    {&J::reqDeleteMissedCallList, "<Method><deleteMissedCallList></Method>", 6},
-    {&J::reqDeleteDialledCallList, "<Method><deleteDialledCallList></Method>", 10},
-    {&J::reqDeleteReceivedCallList, "<Method><deleteReceivedCallList></Method>", 13},
-    {&J::reqDeleteForwardedCallList, "<Method><deleteForwardedCallList></Method>", 16},
+    {&J::reqSetMissedCallListAsViewed, "<Method><setMissedCallListAsViewed></Method>"},
+    {&J::reqDeleteMissedCallList, "<Method><deleteMissedCallList></Method>"},
+    {&J::reqDeleteDialledCallList, "<Method><deleteDialledCallList></Method>"},
+    {&J::reqDeleteReceivedCallList, "<Method><deleteReceivedCallList></Method>"},
+    {&J::reqDeleteForwardedCallList, "<Method><deleteForwardedCallList></Method>"},
 };
-
-static_assert(std::size(plainRequests) + std::size(entryRequests) + std::size(entriesRequests) ==
-              17);
-
-TEST(ServiceRequests, HoldNothingButTheMethod) {
-  for (PlainRequest const& request : plainRequests)
-    EXPECT_EQ(declaration + request.method, request.build());
-}
 
 TEST(ServiceRequests, AboutOneEntryHoldItsIdAsItIs) {
   struct {
@@ -99,29 +71,6 @@ TEST(ServiceRequests, AboutSeveralEntriesHoldTheirIdsInByteOrder) {
   for (EntriesRequest const& request : entriesRequests)
     for (auto const& row : rows)
       EXPECT_EQ(declaration + request.method + row.elements, request.build(row.ids));
-}
-
-TEST(ServiceRequests, AreRecognisedByTheService) {
-  for (PlainRequest const& request : plainRequests)
-    EXPECT_EQ(request.code, J::getMethodFromXMLMsg(request.build())) << request.method;
-  for (EntryRequest const& request : entryRequests)
-    EXPECT_EQ(request.code, J::getMethodFromXMLMsg(request.build("17"))) << request.method;
-  for (EntriesRequest const& request : entriesRequests)
-    EXPECT_EQ(request.code, J::getMethodFromXMLMsg(request.build({"1", "2"}))) << request.method;
-}
-
-// One request of each form in full, with nothing put together.
-TEST(ServiceRequests, ReadAsTheseTexts) {
-  EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\"?><Method><subscribe></Method>",
-            J::reqSubscribe());
-  EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\"?><Method><deleteMissedCall></Method>"
-            "<EntryId>17</EntryId>",
-            J::reqDeleteMissedCall("17"));
-  EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\"?><Method><deleteDialledCall></Method>",
-            J::reqDeleteDialledCall(""));
-  EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\"?><Method><deleteReceivedCallList></Method>"
-            "<EntryId>a</EntryId><EntryId>b</EntryId>",
-            J::reqDeleteReceivedCallList({"b", "a"}));
 }
 
 } // namespace

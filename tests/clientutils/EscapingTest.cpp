@@ -121,7 +121,7 @@ TEST(Escaping, LeavesEveryOtherByteAlone) {
   }
 }
 
-// The alphabet of the entities makes true and false entities frequent.
+// Letters of the entities' names alone make entities, and what is nearly one, frequent.
 TEST(Escaping, RestoresAnyTextItHasWritten) {
   std::string everyByte;
   for (int byte = 0; byte < 256; ++byte)

@@ -5,7 +5,7 @@
 //   journal_complexity list                    the names of the operations and shapes
 //
 // Under callgrind with --collect-atstart=no only the operations are counted, not what builds their
-// inputs, and each run is dumped by itself as "OPERATION SHAPE SIZE".
+// inputs, and each run is dumped separately as "OPERATION SHAPE SIZE".
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -33,10 +33,10 @@ void countedRun(Operation const& operation, Input const& input, std::string cons
   CALLGRIND_DUMP_STATS_AT(label.c_str());
 }
 
-// Those that depend on nothing that can grow are left out.
+// Leaves out those whose inputs cannot grow.
 std::vector<Operation> growingOperations() {
   std::vector<Operation> growing;
-  for (auto const& operation : operations::all<JournalServiceHelper>())
+  for (auto const& operation : operations::all())
     if (operation.readsText || operation.writesRecords || operation.readsIds)
       growing.push_back(operation);
   return growing;
@@ -47,7 +47,7 @@ std::size_t sizeOf(char const* argument) {
 }
 
 int runOne(std::string const& operationName, std::string const& shapeName, std::size_t size) {
-  for (auto const& operation : operations::all<JournalServiceHelper>())
+  for (auto const& operation : operations::all())
     for (auto const& shape : shapes::all())
       if (operation.name == operationName && shape.name == shapeName) {
         auto const label = operationName + " " + shapeName + " " + std::to_string(size);
@@ -76,7 +76,7 @@ int runAll(std::vector<std::size_t> const& sizes) {
 }
 
 int list() {
-  for (auto const& operation : operations::all<JournalServiceHelper>())
+  for (auto const& operation : operations::all())
     std::printf("operation %s\n", operation.name.c_str());
   for (auto const& shape : shapes::all())
     std::printf("shape %s\n", shape.name.c_str());

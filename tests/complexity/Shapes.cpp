@@ -13,7 +13,7 @@ using operations::Input;
 
 std::string const entryFields = "<UniqueId>1</UniqueId><EntryId>2</EntryId><Surname>A</Surname>";
 std::string const callFields = "<Number>110</Number><NumberType>MOBILE</NumberType>";
-std::string const straightEntry =
+std::string const entry =
     "<Entry>" + entryFields + "<LogList><Item>" + callFields + "</Item></LogList></Entry>";
 
 template <class Item>
@@ -41,13 +41,13 @@ std::vector<Shape> const& all() {
       {"unterminated-lists", "<Entry>", "<LogList><Item></Item>", "</Entry>"},
       {"empty-items", "<Entry><LogList>", "<Item></Item>", "</LogList></Entry>"},
       {"empty-entries", "", "<Entry></Entry>", ""},
-      {"straight-entries", "", straightEntry, "<Handle>1</Handle>"},
-      {"nearly-straight-entries", "", "<Entry>" + entryFields + "<LogList></LogList> </Entry>", ""},
-      {"straight-to-the-last-item", "<Entry><LogList>", "<Item>" + callFields + "</Item>",
+      {"entries-in-order", "", entry, "<Handle>1</Handle>"},
+      {"entries-nearly-in-order", "", "<Entry>" + entryFields + "<LogList></LogList> </Entry>", ""},
+      {"in-order-to-the-last-item", "<Entry><LogList>", "<Item>" + callFields + "</Item>",
        "<LogList></Entry>"},
       {"no-close-tags", "<Method>", "<Entry><UniqueId>1<Surname>A<LogList><Item><Number>2", ""},
       {"close-tags-only", "", "</Entry></UniqueId></LogList></Item></Number></Method>", ""},
-      // What stands in elements, or in their place.
+      // What is inside elements, or in their place.
       {"huge-value", "<Entry><UniqueId>", "0123456789abcdef",
        "</UniqueId><LogList></LogList></Entry>"},
       {"unclosed-huge-value", "<Entry><UniqueId>", "0123456789abcdef", ""},
@@ -59,7 +59,7 @@ std::vector<Shape> const& all() {
       {"repeated-method-tags", "<Method>", "<getMissedCalls><get", "</Method>"},
       {"near-misses", "", "<Entr<LogLis<Ite<UniqueI<Numbe<Metho</Entr", ""},
       {"less-than-signs", "", "<", ""},
-      {"less-than-signs-behind-a-nul", std::string("<Entry>\0", 8), "<", ""},
+      {"less-than-signs-after-a-nul", std::string("<Entry>\0", 8), "<", ""},
       {"ampersands", "<Entry><UniqueId>", "&", "</UniqueId><LogList></LogList></Entry>"},
       {"entities", "<Entry><UniqueId>", "&amp;", "</UniqueId><LogList></LogList></Entry>"},
       {"digits", "<UniqueId>", "0", "</UniqueId>"},
@@ -73,7 +73,7 @@ Input inputOf(Shape const& shape, std::size_t size) {
   while (input.text.size() + shape.end.size() < size)
     input.text += shape.unit;
   input.text += shape.end;
-  input.text.shrink_to_fit(); // so that a read behind its end is a read behind its block
+  input.text.shrink_to_fit(); // so that a read past its end is a read past its block
   input.name = "UniqueId";
   input.begin = "<UniqueId>";
   input.close = "</UniqueId>";

@@ -20,7 +20,7 @@ struct Shape {
 
 std::vector<Shape> const& all();
 
-/// The shape's text of about `size` bytes, and records that hold it and are as many as fits.
+/// The shape's text of about `size` bytes, and records of a similar size.
 operations::Input inputOf(Shape const& shape, std::size_t size);
 
 } // namespace shapes

@@ -1,14 +1,13 @@
-// Enumerations to their texts and back, with every kind of value and text that is no member's.
-#include <cstddef>
+// Enumerations to their texts and back, and values and texts that belong to no member.
 #include <cstdint>
-#include <iterator>
 #include <limits>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "JournalServiceHelper.h"
+#include "convert/NearMisses.h"
+#include "members/Enumerations.h"
 
 namespace {
 
@@ -16,86 +15,38 @@ using namespace std::string_literals;
 using J = JournalServiceHelper;
 using Event = CallLogEntryEvent;
 
-template <class E>
-struct Member {
-  E value;
-  std::int32_t number;
-  char const* text;
-};
-
-constexpr Member<NumberType::NT> numberTypes[] = {
-    {NumberType::NO_ICON, 0, "NO_ICON"},     {NumberType::PRIVATE, 1, "PRIVATE"},
-    {NumberType::BUSINESS1, 2, "BUSINESS1"}, {NumberType::BUSINESS2, 3, "BUSINESS2"},
-    {NumberType::MOBILE, 4, "MOBILE"},
-};
-constexpr Member<Event::_TFormat> timeFormats[] = {
-    {Event::FORM_24, 0, "FORM_24"},
-    {Event::FORM_AM, 1, "FORM_AM"},
-    {Event::FORM_PM, 2, "FORM_PM"},
-};
-constexpr Member<Event::_PresentationValue> presentations[] = {
-    {Event::NOT_AVAILABLE, 0, "NOT_AVAILABLE"},
-    {Event::ALLOWED, 1, "ALLOWED"},
-    {Event::NOT_ALLOWED, 2, "NOT_ALLOWED"},
-};
-constexpr Member<Event::_LogTarget> targetLogs[] = {
-    {Event::IN_ANSWERED, 0, "IN_ANSWERED"},   {Event::IN_NO_ANSWER, 1, "IN_NO_ANSWER"},
-    {Event::IN_BUSY, 2, "IN_BUSY"},           {Event::IN_GROUP_MISSED, 3, "IN_GROUP_MISSED"},
-    {Event::OUT_ANSWERED, 4, "OUT_ANSWERED"}, {Event::OUT_NO_ANSWER, 5, "OUT_NO_ANSWER"},
-    {Event::OUT_BUSY, 6, "OUT_BUSY"},
-};
-
 // One enumeration with its two operations and its default member.
 template <class E>
 struct Enumeration {
-  std::vector<Member<E>> members;
   std::string (*toText)(E);
   E (*fromText)(std::string const&);
   E fallback;
   char const* fallbackText;
 };
 
-Enumeration<NumberType::NT> numberType() {
-  return {{std::begin(numberTypes), std::end(numberTypes)},
-          &J::convertNumberType,
-          &J::convertNumberType,
-          NumberType::NO_ICON,
-          "NO_ICON"};
-}
-Enumeration<Event::_TFormat> timeFormat() {
-  return {{std::begin(timeFormats), std::end(timeFormats)},
-          &J::convertTimeFormat,
-          &J::convertTimeFormat,
-          Event::FORM_24,
-          "FORM_24"};
-}
-Enumeration<Event::_PresentationValue> presentation() {
-  return {{std::begin(presentations), std::end(presentations)},
-          &J::convertPresentationValue,
-          &J::convertPresentationValue,
-          Event::NOT_AVAILABLE,
-          "NOT_AVAILABLE"};
-}
-Enumeration<Event::_LogTarget> targetLog() {
-  return {{std::begin(targetLogs), std::end(targetLogs)},
-          &J::convertTargetLog,
-          &J::convertTargetLog,
-          Event::OUT_BUSY,
-          "OUT_BUSY"};
-}
+constexpr Enumeration<NumberType::NT> numberType = {&J::convertNumberType, &J::convertNumberType,
+                                                    NumberType::NO_ICON, "NO_ICON"};
+constexpr Enumeration<Event::_TFormat> timeFormat = {&J::convertTimeFormat, &J::convertTimeFormat,
+                                                     Event::FORM_24, "FORM_24"};
+constexpr Enumeration<Event::_PresentationValue> presentation = {
+    &J::convertPresentationValue, &J::convertPresentationValue, Event::NOT_AVAILABLE,
+    "NOT_AVAILABLE"};
+constexpr Enumeration<Event::_LogTarget> targetLog = {&J::convertTargetLog, &J::convertTargetLog,
+                                                      Event::OUT_BUSY, "OUT_BUSY"};
 
+// The members are numbered from 0 without a gap, and each is spelled by its own name.
 template <class E>
 void expectMembersBothWays(Enumeration<E> const& enumeration) {
-  for (Member<E> const& member : enumeration.members) {
-    SCOPED_TRACE(member.text);
-    EXPECT_EQ(member.number, static_cast<std::int32_t>(member.value));
-    EXPECT_EQ(member.text, enumeration.toText(member.value));
-    EXPECT_EQ(member.text, enumeration.toText(static_cast<E>(member.number)));
-    EXPECT_EQ(member.value, enumeration.fromText(member.text));
+  std::int32_t number = 0;
+  for (auto const& [value, name] : members::enumerators<E>) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(number, static_cast<std::int32_t>(value));
+    EXPECT_EQ(name, enumeration.toText(static_cast<E>(number++)));
+    EXPECT_EQ(value, enumeration.fromText(std::string(name)));
   }
 }
 
-// The last values share their low bytes with members: none may be cut down to a byte or a word.
+// The last values share their low bytes with members: none may be truncated.
 constexpr std::int32_t strayValues[] = {
     -1,
     -2,
@@ -122,45 +73,15 @@ template <class E>
 void expectFallbackText(Enumeration<E> const& enumeration) {
   for (std::int32_t value : strayValues)
     EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(value))) << value;
-  auto const behindTheLast = static_cast<std::int32_t>(enumeration.members.size());
-  EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(behindTheLast)));
-}
-
-std::vector<std::string> nearMissesOf(std::string const& text) {
-  std::vector<std::string> misses = {
-      text + " ",
-      " " + text,
-      text + "\0"s,
-      "\0"s + text,
-      text + "\n",
-      text + "1",
-      text + text,
-      "<" + text + ">",
-      text + "\0"s + text,
-      text.substr(1),
-      text.substr(0, text.size() - 1),
-  };
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    misses.push_back(text);
-    misses.back()[i] = static_cast<char>(misses.back()[i] ^ 0x20); // the other case, for letters
-    misses.push_back(text);
-    misses.back()[i] = '\0';
-  }
-  return misses;
-}
-
-std::string lowerCase(std::string text) {
-  for (char& c : text)
-    if (c >= 'A' && c <= 'Z')
-      c = static_cast<char>(c - 'A' + 'a');
-  return text;
+  auto const afterTheLast = static_cast<std::int32_t>(members::enumerators<E>.size());
+  EXPECT_EQ(enumeration.fallbackText, enumeration.toText(static_cast<E>(afterTheLast)));
 }
 
 template <class E>
 void expectFallbackMember(Enumeration<E> const& enumeration) {
-  for (Member<E> const& member : enumeration.members) {
-    EXPECT_EQ(enumeration.fallback, enumeration.fromText(lowerCase(member.text))) << member.text;
-    for (std::string const& miss : nearMissesOf(member.text))
+  for (auto const& enumerator : members::enumerators<E>) {
+    std::string const name(enumerator.name);
+    for (std::string const& miss : nearMissesOf(name))
       EXPECT_EQ(enumeration.fallback, enumeration.fromText(miss)) << miss;
   }
   for (std::string const& text :
@@ -169,52 +90,45 @@ void expectFallbackMember(Enumeration<E> const& enumeration) {
 }
 
 TEST(ConvertNumberType, MapsEachMemberToItsNameAndBack) {
-  expectMembersBothWays(numberType());
+  expectMembersBothWays(numberType);
 }
 TEST(ConvertTimeFormat, MapsEachMemberToItsNameAndBack) {
-  expectMembersBothWays(timeFormat());
+  expectMembersBothWays(timeFormat);
 }
 TEST(ConvertPresentation, MapsEachMemberToItsNameAndBack) {
-  expectMembersBothWays(presentation());
+  expectMembersBothWays(presentation);
 }
 TEST(ConvertTargetLog, MapsEachMemberToItsNameAndBack) {
-  expectMembersBothWays(targetLog());
+  expectMembersBothWays(targetLog);
 }
 
 TEST(ConvertNumberType, WritesAnyOtherValueAsNoIcon) {
-  expectFallbackText(numberType());
+  expectFallbackText(numberType);
 }
 TEST(ConvertTimeFormat, WritesAnyOtherValueAs24Hours) {
-  expectFallbackText(timeFormat());
+  expectFallbackText(timeFormat);
 }
 TEST(ConvertPresentation, WritesAnyOtherValueAsNotAvailable) {
-  expectFallbackText(presentation());
+  expectFallbackText(presentation);
 }
 TEST(ConvertTargetLog, WritesAnyOtherValueAsOutBusy) {
-  expectFallbackText(targetLog());
+  expectFallbackText(targetLog);
 }
 
 TEST(ConvertNumberType, ReadsAnyOtherTextAsNoIcon) {
-  expectFallbackMember(numberType());
+  expectFallbackMember(numberType);
 }
 TEST(ConvertTimeFormat, ReadsAnyOtherTextAs24Hours) {
-  expectFallbackMember(timeFormat());
+  expectFallbackMember(timeFormat);
 }
 TEST(ConvertPresentation, ReadsAnyOtherTextAsNotAvailable) {
-  expectFallbackMember(presentation());
+  expectFallbackMember(presentation);
 }
 TEST(ConvertTargetLog, ReadsAnyOtherTextAsOutBusy) {
-  expectFallbackMember(targetLog());
+  expectFallbackMember(targetLog);
 }
 
-TEST(ConvertTargetLog, WritesSixSevenAndMinusOneAlike) {
-  EXPECT_EQ("OUT_NO_ANSWER", J::convertTargetLog(static_cast<Event::_LogTarget>(5)));
-  EXPECT_EQ("OUT_BUSY", J::convertTargetLog(static_cast<Event::_LogTarget>(6)));
-  EXPECT_EQ("OUT_BUSY", J::convertTargetLog(static_cast<Event::_LogTarget>(7)));
-  EXPECT_EQ("OUT_BUSY", J::convertTargetLog(static_cast<Event::_LogTarget>(-1)));
-}
-
-// In memory of its own, so that a sanitizer sees whatever is read in front of it.
+// On the heap, so that a sanitizer notices a read in front of the text.
 TEST(ConvertNumberType, LooksAtNothingInFrontOfAShortText) {
   for (std::string text : {"", "x"}) {
     text.reserve(1000);

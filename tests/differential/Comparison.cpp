@@ -8,13 +8,14 @@
 #include "ClientUtils.h"
 #include "differential/Shown.h"
 #include "reference/Reference.h"
+#include "vocabulary/Constants.h"
 
 namespace comparison {
 namespace {
 
 using Library = JournalServiceHelper;
 
-// Compares the results of one operation. The description is put together only on a difference.
+// Compares the results of one operation. The description is built only when they differ.
 #define JOURNAL_COMPARE(OPERATION, INPUT, LIBRARY, REFERENCE)                                      \
   if (auto const library = (LIBRARY), reference = (REFERENCE); library != reference)               \
   return difference(OPERATION, INPUT, library, reference)
@@ -22,7 +23,7 @@ using Library = JournalServiceHelper;
 #define JOURNAL_COMPARE_CALL(CALL, INPUT)                                                          \
   JOURNAL_COMPARE(#CALL, INPUT, Library::CALL, Reference::CALL)
 
-// Results with their outputs, the outputs holding something before.
+// Results with their outputs, which hold something before.
 
 template <class Operations, class Value>
 std::pair<long long, Value> atCursor(char const* text, std::string const& begin,
@@ -74,7 +75,7 @@ Difference compareAtCursor(char const* text, std::string const& name, Value cons
   return {};
 }
 
-// From the start and, so that the cursor has to move, from the begin tag on.
+// From the start of the text, and from the first begin tag, where the cursor has to move.
 template <class Value>
 Difference compareAtCursors(std::string const& text, std::string const& name, Value const& before) {
   auto const at = text.find("<" + name + ">");
@@ -102,57 +103,12 @@ Difference compareConversions(std::string const& text) {
 }
 
 std::string const* nameCalled(std::string_view name) {
-  auto const& names = elementNames();
+  auto const& names = vocabulary::elementNames();
   auto const found = std::find(names.begin(), names.end(), name);
   return found == names.end() ? nullptr : &*found;
 }
 
 } // namespace
-
-std::vector<std::string> const& elementNames() {
-  static std::vector<std::string> const names = {
-      "Method",
-      "Entry",
-      "LogList",
-      "Item",
-      "Handle",
-      "UniqueId",
-      "EntryId",
-      "Surname",
-      "Firstname",
-      "Picture",
-      "JSGroupBy",
-      "Viewed",
-      "Number",
-      "NumberType",
-      "ResolvedNumber",
-      "ConnectedNumber",
-      "ConnectedNumberPriority",
-      "ConnectedNumberType",
-      "ConnectedSurname",
-      "ConnectedFirstName",
-      "TimeDate",
-      "Duration",
-      "TargetLog",
-      "NumberPresentation",
-      "NamePresentation",
-      "DeflectNumberPresentation",
-      "DeflectNumber",
-      "DeflectNumberType",
-      "DeflectNamePresentation",
-      "DeflectName",
-      "TimeFormat",
-      "ActionType",
-      "UniqueIdToDelete",
-      "ReasonForMessage",
-      "CallLogEnabled",
-      "Schema",
-      "Value",
-      "Index",
-      "",
-  };
-  return names;
-}
 
 void namesIn(std::string const& text, std::vector<std::string const*>& names) {
   names.clear();
@@ -170,7 +126,7 @@ void namesIn(std::string const& text, std::vector<std::string const*>& names) {
 }
 
 Difference compareElement(std::string const& text, std::string const& name, Reading reading) {
-  // What the flag is before takes turns, so that a flag left alone is told from either value.
+  // The flag starts as true or as false, so that one that is not set is noticed in some texts.
   bool const flag = text.size() % 2 == 0;
   switch (reading) {
   case Reading::textAtCursor:
@@ -295,12 +251,12 @@ Difference compareNumber(int value) {
 
 namespace {
 
-// The elements that are read in this turn.
+// The elements that are read from this text.
 std::vector<std::string const*> const& elementsInTurn(std::string const& text,
                                                       std::string const& about, unsigned int turn) {
   static thread_local std::vector<std::string const*> chosen;
   static thread_local std::vector<std::string const*> held;
-  auto const& all = elementNames();
+  auto const& all = vocabulary::elementNames();
   namesIn(about, chosen);
   namesIn(text, held);
   if (!held.empty())

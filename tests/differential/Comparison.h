@@ -1,4 +1,4 @@
-// Runs the library and the reference on the same input and tells where they differ.
+// Runs the library and the reference on the same input and describes how they differ.
 //
 // Each function returns an empty text when both agree in everything: results, outputs, how far a
 // cursor moved, and that the input is unchanged (or, where a byte is written, changed alike).
@@ -24,29 +24,27 @@ constexpr int KINDS = 4;
 enum class Level { call, calls, item, itemText, log, logAndHandle };
 constexpr int LEVELS = 6;
 
-/// Whether a decoder is given empty outputs or such as hold something already.
+/// Whether the outputs given to a decoder are empty or hold something already.
 enum class Outputs { fresh, filled };
 
-/// The texts of one input in readable form, cut off where it gets long.
+/// A text in readable form, truncated when it is long.
 std::string readable(std::string const& text);
 
-/// Every element name of the messages, and the empty name.
-std::vector<std::string> const& elementNames();
-
-/// The names out of elementNames() of which the text holds a begin or close tag, each once.
+/// The names out of vocabulary::elementNames() of which the text holds a begin or close tag, each
+/// once.
 void namesIn(std::string const& text, std::vector<std::string const*>& names);
 
 /// The extractors of one element: two at a cursor, five that search the whole message.
 enum class Reading { textAtCursor, flagAtCursor, text, numberType, flag, number, cutOut };
 constexpr int READINGS = 7;
 
-/// One extractor; at a cursor from the start of the text and from the first begin tag on.
+/// One extractor. Those at a cursor start at the text's front and at the first begin tag.
 Difference compareElement(std::string const& text, std::string const& name, Reading reading);
 
 /// All extractors of one element.
 Difference compareElement(std::string const& text, std::string const& name);
 
-/// What reads a whole message or finishes one.
+/// The operations that read a whole message or complete one.
 enum class Whole { method, failure, setting, lastUniqueId, envelope, schema, success };
 constexpr int WHOLES = 7;
 
@@ -54,7 +52,7 @@ constexpr int WHOLES = 7;
 Difference compareMessage(std::string const& text, Whole operation);
 Difference compareMessage(std::string const& text);
 
-/// What the utility library does with texts: there, back, and there and back again.
+/// Escaping, unescaping, and one after the other.
 Difference compareEscaped(std::string const& text);
 Difference compareUnescaped(std::string const& text);
 Difference compareEscaping(std::string const& text);
@@ -74,14 +72,14 @@ Difference compareDecoder(std::string const& text, Kind kind, Level level, Outpu
 /// All decoders of a kind.
 Difference compareDecoders(std::string const& text, Kind kind, Outputs outputs);
 
-/// What a notification tells beside the entry, and a log beside the entries.
+/// What a notification holds besides the entry, and a log besides its entries.
 struct Notice {
   std::string uniqueIdToDelete;
   JournalServiceObserverIfc::ActionType action = JournalServiceObserverIfc::ENTRY_ADDED;
   unsigned int handle = 0;
 };
 
-/// The encoders of one kind; a log is written of no entry, of the entry once and twice.
+/// The encoders of one kind; logs are written with the entry not at all, once and twice.
 enum class Writing { body, uniqueId, calls, notification, log };
 constexpr int WRITINGS = 5;
 
@@ -93,11 +91,11 @@ Difference compareEncoder(Item const& item, Notice const& notice, Writing writin
 template <class Item>
 Difference compareEncoders(Item const& item, Notice const& notice);
 
-/// The reading operations on one text: what reads whole messages, and the decoders of its own kind.
-/// What would be too much for every text takes turns: one decoder of another kind, and of the
-/// elements those that `about` names with one more of the text and one of the vocabulary.
-/// @param about the part of the text that makes it a new one
-/// @param turn counted up from text to text
+/// The reading operations on one text: those on whole messages, the decoders of its own kind, one
+/// decoder of another kind, and the extractors of some elements: those named in `about`, one more
+/// of the text and one of the vocabulary. Which one it is changes from text to text.
+/// @param about the part of the text that an edit has changed
+/// @param turn the number of the text
 Difference compareReading(std::string const& text, Kind own, std::string const& about,
                           unsigned int turn);
 

@@ -4,14 +4,14 @@
 
 #include "differential/Comparison.h"
 #include "differential/KindOperations.h"
-#include "differential/RecordFields.h"
 #include "differential/Shown.h"
+#include "members/Equality.h"
 #include "reference/Reference.h"
 
 namespace comparison {
 namespace {
 
-// Fills every field with something that no message here holds, and no default.
+// Sets every field to something that is no default and occurs in no message here.
 struct Fill {
   void operator()(std::string& field) const { field = "before"; }
   void operator()(bool& field) const { field = true; }
@@ -28,7 +28,7 @@ template <class Item>
 InfoOf<Item> const& filledInfo() {
   static InfoOf<Item> const info = [] {
     InfoOf<Item> filled;
-    forEachField(filled, Fill());
+    members::forEachValue(filled, Fill());
     return filled;
   }();
   return info;
@@ -38,14 +38,14 @@ template <class Item>
 Item const& filledItem() {
   static Item const item = [] {
     Item filled;
-    forEachField(filled, Fill());
+    members::forEachValue(filled, Fill());
     filled.callInfoList.push_back(filledInfo<Item>());
     return filled;
   }();
   return item;
 }
 
-// What a decoder returns and puts out; the handle only where there is one.
+// What a decoder returns and writes; the handle only where there is one.
 template <class Output>
 struct Decoded {
   Output output;
@@ -56,7 +56,7 @@ struct Decoded {
 template <class Output>
 bool operator!=(Decoded<Output> const& left, Decoded<Output> const& right) {
   return left.result != right.result || left.handle != right.handle ||
-         !same(left.output, right.output);
+         !members::equal(left.output, right.output);
 }
 
 template <class Output>
@@ -91,8 +91,8 @@ public:
     return {};
   }
 
-  // The reference decodes each level once; what differs only in the argument's type or in the
-  // handle is compared with the same result.
+  // The reference decodes each level once; operations that differ only in the argument's type
+  // or in the handle are compared with the same result.
   static Difference compareAll(std::string const& text, Outputs outputs) {
     if (auto found = compareCall(text, outputs); !found.empty())
       return found;
@@ -119,7 +119,7 @@ private:
   static Difference told(char const* what, std::string const& text, Decoded<Output> const& library,
                          Decoded<Output> const& reference) {
     if (library != reference)
-      return std::string(Library::name()) + " " + what + "\n  on:        " + readable(text) +
+      return std::string(Library::NAME) + " " + what + "\n  on:        " + readable(text) +
              "\n  library:   " + shownDecoded(library) +
              "\n  reference: " + shownDecoded(reference) + "\n";
     return {};
@@ -202,7 +202,7 @@ private:
   }
 };
 
-// The text is compared with a copy of it afterwards: decoders must not write into it.
+// Also checks that the text has not been written into.
 template <class Compare>
 Difference unchanged(std::string const& text, Compare compare) {
   static thread_local std::string copy;
@@ -216,34 +216,18 @@ Difference unchanged(std::string const& text, Compare compare) {
 } // namespace
 
 Difference compareDecoder(std::string const& text, Kind kind, Level level, Outputs outputs) {
-  return unchanged(text, [&]() -> Difference {
-    switch (kind) {
-    case Kind::missed:
-      return Decoders<MissedCallItem>::compare(text, level, outputs);
-    case Kind::dialled:
-      return Decoders<DialledCallItem>::compare(text, level, outputs);
-    case Kind::received:
-      return Decoders<ReceivedCallItem>::compare(text, level, outputs);
-    case Kind::forwarded:
-      return Decoders<ForwardedCallItem>::compare(text, level, outputs);
-    }
-    return {};
+  return unchanged(text, [&] {
+    return withKind(kind, [&](auto const& item) {
+      return Decoders<std::decay_t<decltype(item)>>::compare(text, level, outputs);
+    });
   });
 }
 
 Difference compareDecoders(std::string const& text, Kind kind, Outputs outputs) {
-  return unchanged(text, [&]() -> Difference {
-    switch (kind) {
-    case Kind::missed:
-      return Decoders<MissedCallItem>::compareAll(text, outputs);
-    case Kind::dialled:
-      return Decoders<DialledCallItem>::compareAll(text, outputs);
-    case Kind::received:
-      return Decoders<ReceivedCallItem>::compareAll(text, outputs);
-    case Kind::forwarded:
-      return Decoders<ForwardedCallItem>::compareAll(text, outputs);
-    }
-    return {};
+  return unchanged(text, [&] {
+    return withKind(kind, [&](auto const& item) {
+      return Decoders<std::decay_t<decltype(item)>>::compareAll(text, outputs);
+    });
   });
 }
 

@@ -3,7 +3,7 @@
 // One edit is tried exhaustively. Pairs of edits are far too many, so they are walked with a fixed
 // stride until enough texts were compared. Texts that are reached twice count once.
 //
-// JOURNAL_DIFFERENTIAL_TEXTS says how many texts are asked for in all, JOURNAL_LONG=1 asks for
+// JOURNAL_DIFFERENTIAL_TEXTS is the number of texts to compare in all, JOURNAL_LONG=1 means
 // five million; see askedFor().
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ using differential::Message;
 
 constexpr std::uint64_t usualTexts = 200000;
 constexpr std::uint64_t longRunTexts = 5000000;
-constexpr std::uint64_t parts = 5; // tests that share the texts asked for
+constexpr std::uint64_t parts = 5; // tests that share the requested texts
 
 std::uint64_t askedFor() {
   char const* const texts = std::getenv("JOURNAL_DIFFERENTIAL_TEXTS");
@@ -48,7 +48,7 @@ public:
     slots_.resize(size);
   }
 
-  // Tells whether the text is new. The hash 0 marks a free slot and is taken for 1.
+  // Tells whether the text is new. The hash 0 marks a free slot, so it is replaced by 1.
   bool insert(std::string const& text) {
     std::uint64_t hash = 14695981039346656037U;
     for (char const c : text)
@@ -67,8 +67,8 @@ private:
   std::vector<std::uint64_t> slots_;
 };
 
-// A stride without a common factor with the count, so that a walk comes by everything once; near
-// the golden section, so that it is spread evenly however soon it ends.
+// A stride that has no factor in common with the count, so that a walk visits everything once. It
+// is near the golden section of the count, so that any part of the walk is spread evenly.
 std::uint64_t strideThrough(std::uint64_t count) {
   std::uint64_t stride = count - count / 1000 * 382;
   while (std::gcd(stride, count) != 1)
@@ -76,14 +76,14 @@ std::uint64_t strideThrough(std::uint64_t count) {
   return stride;
 }
 
-// A text near a message, and what of it is new.
+// A text near a message, and the part that an edit has changed.
 struct Text {
   std::string whole;
   std::string touched;
   Kind kind = Kind::missed;
 };
 
-// The texts around several messages, by number: all single edits, and all pairs.
+// The texts near several messages, by number: all single edits, and all pairs.
 class Texts {
 public:
   Texts(std::vector<Message> messages, std::vector<std::string> const& letters)
@@ -162,7 +162,7 @@ void compareTexts(std::vector<Message> const& messages, std::vector<std::string>
   if (::testing::Test::HasFatalFailure())
     return;
   std::cout << compared << " different texts compared\n";
-  // Single edits that give the same text leave a full run of them below their number.
+  // Different edits may give the same text, so fewer texts than edits are compared.
   EXPECT_GE(compared, share);
 }
 

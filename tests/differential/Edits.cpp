@@ -1,4 +1,4 @@
-// Numbered edits: the number is cut down by the count of each sort of edit in turn.
+// Numbered edits: the count of each sort of edit is subtracted in turn.
 #include "differential/Edits.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ Pair pairNumbered(std::uint64_t number) {
   return {number, high};
 }
 
-// A place in the tokens, behind the last too, and what stands there and around it.
+// A place in the tokens, the end included, and the tokens there and around it.
 class Place {
 public:
   Place(Tokens& tokens, std::uint64_t at) : tokens_(tokens), at_(static_cast<std::size_t>(at)) {}
@@ -98,7 +98,7 @@ void Edits::apply(std::uint64_t edit, Tokens& tokens, std::string& touched) cons
   place.tell(touched);
 }
 
-// The first edit decides how many tokens, and so how many second edits there are.
+// The first edit changes the number of tokens, and so how many second edits there are.
 void Edits::applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) const {
   auto const counts = countsOf(tokens.size());
   struct Group {
@@ -121,26 +121,16 @@ void Edits::applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) 
   }
 }
 
-std::vector<std::string> tokensOf(std::string_view text) {
-  std::vector<std::string> tokens;
-  while (!text.empty()) {
-    auto const end = text.front() == '<' ? text.find('>') + 1 : text.find('<');
-    tokens.emplace_back(text.substr(0, end));
-    text.remove_prefix(tokens.back().size());
-  }
-  return tokens;
-}
-
 std::vector<std::string> elementsOf(std::string_view text) {
   std::vector<std::string> elements;
-  for (auto const& token : tokensOf(text)) {
-    elements.push_back(token);
+  for (auto const token : tokensOf(text)) {
+    elements.emplace_back(token);
     auto const size = elements.size();
-    bool const closesLeaf = size >= 3 && token.compare(0, 2, "</") == 0 &&
+    bool const closesLeaf = size >= 3 && token.substr(0, 2) == "</" &&
                             elements[size - 2].front() != '<' &&
                             "</" + elements[size - 3].substr(1) == token;
     if (closesLeaf) {
-      elements[size - 3] += elements[size - 2] + token;
+      elements[size - 3] += elements[size - 2] + elements[size - 1];
       elements.resize(size - 2);
     }
   }

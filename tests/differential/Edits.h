@@ -1,4 +1,4 @@
-// The texts around a text: its tokens with one of them inserted, deleted, replaced, exchanged with
+// The texts near a text: its tokens with one of them inserted, deleted, replaced, exchanged with
 // another or repeated. The edits of a text are numbered, so that they can be walked in any order.
 #ifndef TESTS_DIFFERENTIAL_EDITS_H
 #define TESTS_DIFFERENTIAL_EDITS_H
@@ -8,13 +8,14 @@
 #include <string_view>
 #include <vector>
 
-namespace differential {
+#include "differential/Tokens.h"
 
-using Tokens = std::vector<std::string_view>;
+namespace differential {
 
 class Edits {
 public:
-  /// @param alphabet what is inserted and what replaces; has to outlive this and what is edited
+  /// @param alphabet what is inserted and what replaces; has to outlive this object and what it
+  /// edits
   explicit Edits(std::vector<std::string> const& alphabet)
       : alphabet_(alphabet.begin(), alphabet.end()) {}
 
@@ -25,7 +26,7 @@ public:
   std::uint64_t countPairs(std::uint64_t tokens) const;
 
   /// Makes one edit, or a pair of edits.
-  /// @param[in,out] touched what was taken out and put in, and what stands beside it, is appended
+  /// @param[in,out] touched what was taken out and put in, and its neighbours, are appended
   void apply(std::uint64_t edit, Tokens& tokens, std::string& touched) const;
   void applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) const;
 
@@ -38,10 +39,7 @@ private:
   Tokens alphabet_;
 };
 
-/// Cuts a text into its tags and what stands between them.
-std::vector<std::string> tokensOf(std::string_view text);
-
-/// The same with each element that holds no other as one token.
+/// The tokens of a text, with each element that holds no other as one token.
 std::vector<std::string> elementsOf(std::string_view text);
 
 } // namespace differential

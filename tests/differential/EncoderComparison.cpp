@@ -1,11 +1,10 @@
 // The comparison of the encoders of entries, of the service's messages and of the requests.
-#include <limits>
 #include <set>
 
 #include "differential/Comparison.h"
 #include "differential/KindOperations.h"
-#include "differential/RecordFields.h"
 #include "differential/Shown.h"
+#include "members/Equality.h"
 #include "reference/Reference.h"
 
 namespace comparison {
@@ -54,7 +53,7 @@ private:
                          std::string const& reference) {
     if (library == reference)
       return {};
-    return std::string(Library::name()) + " " + what + " of " + shown(item) +
+    return std::string(Library::NAME) + " " + what + " of " + shown(item) +
            "\n  library:   " + readable(library) + "\n  reference: " + readable(reference) + "\n";
   }
 
@@ -161,7 +160,7 @@ Difference compareEncoders(Item const& item, Notice const& notice) {
   for (int writing = 0; writing < WRITINGS; ++writing)
     if (auto found = compareEncoder(item, notice, static_cast<Writing>(writing)); !found.empty())
       return found;
-  return same(item, copy) ? Difference() : "An encoder changed the record " + shown(copy);
+  return members::equal(item, copy) ? Difference() : "An encoder changed the record " + shown(copy);
 }
 
 template Difference compareEncoder(MissedCallItem const&, Notice const&, Writing);

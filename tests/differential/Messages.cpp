@@ -1,10 +1,12 @@
-// Messages as the reference writes them, kept short so that many texts around them can be tested.
+// Messages as the reference writes them, kept short so that many texts near them can be tested.
 #include "differential/Messages.h"
 
 #include "differential/Edits.h"
 #include "differential/KindOperations.h"
-#include "differential/RecordFields.h"
+#include "members/Enumerations.h"
+#include "members/Members.h"
 #include "reference/Reference.h"
+#include "vocabulary/Constants.h"
 
 namespace differential {
 namespace {
@@ -12,7 +14,7 @@ namespace {
 using comparison::Kind;
 
 // Sets every field: texts to different short values, one of them with an entity, and enumerations
-// to members that are not their defaults.
+// to the member after the default.
 class FillWithValues {
 public:
   void operator()(std::string& field) {
@@ -20,16 +22,23 @@ public:
     field = values[next_++ % 7];
   }
   void operator()(bool& field) { field = true; }
-  void operator()(NumberType::NT& field) { field = NumberType::MOBILE; }
-  void operator()(CallLogEntryEvent::_TFormat& field) { field = CallLogEntryEvent::FORM_PM; }
-  void operator()(CallLogEntryEvent::_LogTarget& field) { field = CallLogEntryEvent::IN_BUSY; }
-  void operator()(CallLogEntryEvent::_PresentationValue& field) {
-    field = CallLogEntryEvent::ALLOWED;
+  template <class Enumeration>
+  void operator()(Enumeration& field) {
+    auto const& all = members::enumerators<Enumeration>;
+    std::size_t at = 0;
+    while (all[at].value != field)
+      ++at;
+    field = all[(at + 1) % all.size()].value;
   }
 
 private:
   unsigned int next_ = 0;
 };
+
+Message messageOf(Kind kind, std::string const& text) {
+  auto const tokens = tokensOf(text);
+  return {kind, {tokens.begin(), tokens.end()}};
+}
 
 template <class Item>
 std::vector<Message> logs(Kind kind) {
@@ -38,43 +47,17 @@ std::vector<Message> logs(Kind kind) {
   Item bare = sparseItem<Item>();
   bare.callInfoList.clear();
   auto const sparse = Oracle::respond({bare, sparseItem<Item>()}, 0);
-  return {{kind, tokensOf(full)}, {kind, tokensOf(sparse)}, {kind, elementsOf(full)}};
+  return {messageOf(kind, full), messageOf(kind, sparse), {kind, elementsOf(full)}};
 }
 
 void append(std::vector<std::string>& all, std::vector<std::string> const& more) {
   all.insert(all.end(), more.begin(), more.end());
 }
 
-std::vector<std::string> methodTags() {
-  std::vector<std::string> const methods = {
-      "getMissedCallList",
-      "setMissedCallListAsViewed",
-      "deleteMissedCall",
-      "deleteMissedCallList",
-      "getDialledCallList",
-      "deleteDialledCall",
-      "deleteDialledCallList",
-      "getLastDialledNumber",
-      "getReceivedCallList",
-      "deleteReceivedCall",
-      "deleteReceivedCallList",
-      "getForwardedCallList",
-      "deleteForwardedCall",
-      "deleteForwardedCallList",
-      "subscribe",
-      "unsubscribe",
-      "refreshCallLog",
-      "missedCallsUpdate",
-      "dialledCallsUpdate",
-      "receivedCallsUpdate",
-      "forwardedCallsUpdate",
-      "missedGroupCallsUpdate",
-      "missedCallsCountUpdate",
-  };
-  std::vector<std::string> tags;
-  for (auto const& method : methods)
-    tags.push_back("<" + method + ">");
-  return tags;
+template <class Enumeration>
+void appendNames(std::vector<std::string>& all) {
+  for (auto const& enumerator : members::enumerators<Enumeration>)
+    all.emplace_back(enumerator.name);
 }
 
 } // namespace
@@ -83,8 +66,8 @@ template <class Item>
 Item fullItem() {
   Item item;
   FillWithValues fill;
-  comparison::forEachField(item, [&fill](auto& field) { fill(field); });
-  comparison::forEachField(item.callInfoList.emplace_back(), [&fill](auto& field) { fill(field); });
+  members::forEachValue(item, fill);
+  members::forEachValue(item.callInfoList.emplace_back(), fill);
   return item;
 }
 
@@ -106,17 +89,8 @@ template ReceivedCallItem sparseItem();
 template ForwardedCallItem sparseItem();
 
 std::vector<Message> logsOf(Kind kind) {
-  switch (kind) {
-  case Kind::missed:
-    return logs<MissedCallItem>(kind);
-  case Kind::dialled:
-    return logs<DialledCallItem>(kind);
-  case Kind::received:
-    return logs<ReceivedCallItem>(kind);
-  case Kind::forwarded:
-    return logs<ForwardedCallItem>(kind);
-  }
-  return {};
+  return comparison::withKind(
+      kind, [kind](auto const& item) { return logs<std::decay_t<decltype(item)>>(kind); });
 }
 
 std::vector<Message> otherMessages() {
@@ -125,102 +99,55 @@ std::vector<Message> otherMessages() {
   auto const action = JournalServiceObserverIfc::ENTRY_CHANGED;
   auto const setting = "<Schema name=\"CallLogSettings\"><CallLogEnabled>true</CallLogEnabled>";
   return {
-      {Kind::missed, tokensOf(Reference::reqDeleteMissedCallList({"1", "22"}))},
-      {Kind::dialled, tokensOf(Reference::reqGetLastDialledNumber())},
-      {Kind::received, tokensOf(Reference::readEnabledState())},
-      {Kind::missed, tokensOf(Reference::obsReqMissedCallsCountUpdate(3))},
-      {Kind::missed, tokensOf(Reference::obsReqMissedCallsUpdate({}, "9", action, 7))},
-      {Kind::forwarded, tokensOf(Reference::obsReqForwardedCallsUpdate(forwarded, "", action, 7))},
-      {Kind::received, tokensOf("<Value>Success</Value>")},
-      {Kind::dialled, tokensOf(std::string(setting) + "</Schema>")},
-      {Kind::received, tokensOf("<CallLogEnabled></CallLogEnabled>")},
-      {Kind::forwarded, tokensOf("<Entry><UniqueId>1</UniqueId></Entry><Entry><UniqueId>2"
-                                 "</UniqueId></Entry><Handle>-1</Handle>")},
+      messageOf(Kind::missed, Reference::reqDeleteMissedCallList({"1", "22"})),
+      messageOf(Kind::dialled, Reference::reqGetLastDialledNumber()),
+      messageOf(Kind::received, Reference::readEnabledState()),
+      messageOf(Kind::missed, Reference::obsReqMissedCallsCountUpdate(3)),
+      messageOf(Kind::missed, Reference::obsReqMissedCallsUpdate({}, "9", action, 7)),
+      messageOf(Kind::forwarded, Reference::obsReqForwardedCallsUpdate(forwarded, "", action, 7)),
+      messageOf(Kind::received, "<Value>Success</Value>"),
+      messageOf(Kind::dialled, std::string(setting) + "</Schema>"),
+      messageOf(Kind::received, "<CallLogEnabled></CallLogEnabled>"),
+      messageOf(Kind::forwarded, "<Entry><UniqueId>1</UniqueId></Entry><Entry><UniqueId>2"
+                                 "</UniqueId></Entry><Handle>-1</Handle>"),
   };
 }
 
 std::vector<std::string> valueTokens() {
   using namespace std::string_literals;
-  return {
+  std::vector<std::string> all = {
       // Whitespace and odd bytes.
-      " ",
-      "\n",
-      "\t",
-      "\0"s,
-      "\xff",
+      " ", "\n", "\t", "\0"s, "\xff",
       // Ampersands.
-      "&",
-      "&amp;",
-      "&amp",
-      "&amp;lt;",
-      "&lt;",
-      "&quot;&apos;&gt;",
-      "&#38;",
-      "&AMP;",
+      "&", "&amp;", "&amp", "&amp;lt;", "&lt;", "&quot;&apos;&gt;", "&#38;", "&AMP;",
       // Flags and response words.
-      "True",
-      "true",
-      "False",
-      "TRUE",
-      "True ",
-      "Tru",
-      "Success",
-      "Failure",
-      // Enumerations and what is nearly one.
-      "NO_ICON",
-      "PRIVATE",
-      "MOBILE",
-      "BUSINESS1",
-      "BUSINESS2",
-      "BUSINESS3",
-      "mobile",
-      "MOBILE ",
-      "IN_ANSWERED",
-      "IN_NO_ANSWER",
-      "IN_BUSY",
-      "IN_GROUP_MISSED",
-      "OUT_ANSWERED",
-      "OUT_NO_ANSWER",
-      "OUT_BUSY",
-      "OUT_BUS",
-      "NOT_AVAILABLE",
-      "ALLOWED",
-      "NOT_ALLOWED",
-      "FORM_24",
-      "FORM_AM",
-      "FORM_PM",
-      "FORM_A",
+      "True", "true", "False", "TRUE", "True ", "Tru", "Success", "Failure",
+      // What is nearly a member of an enumeration.
+      "BUSINESS3", "mobile", "MOBILE ", "OUT_BUS", "FORM_A",
       // Numbers.
-      "0",
-      "-1",
-      "+1",
-      "\t\n\v\f\r 7",
-      "1x",
-      "-",
-      "2147483647",
-      "2147483648",
-      "-2147483648",
-      "-2147483649",
-      "4294967295",
-      "4294967296",
-      "18446744073709551616",
-  };
+      "0", "-1", "+1", "\t\n\v\f\r 7", "1x", "-", "2147483647", "2147483648", "-2147483648",
+      "-2147483649", "4294967295", "4294967296", "18446744073709551616"};
+  appendNames<NumberType::NT>(all);
+  appendNames<CallLogEntryEvent::_LogTarget>(all);
+  appendNames<CallLogEntryEvent::_PresentationValue>(all);
+  appendNames<CallLogEntryEvent::_TFormat>(all);
+  return all;
 }
 
 std::vector<std::string> alphabet(bool withMethods) {
   std::vector<std::string> all;
-  for (auto const& name : comparison::elementNames()) {
+  for (auto const& name : vocabulary::elementNames()) {
     bool const hasTags = !name.empty() && name != "Schema" && name != "Index";
     if (hasTags)
       append(all, {"<" + name + ">", "</" + name + ">"});
   }
-  // Tags cut short or altered, and the joints at which entries and calls are cut apart.
+  // Tags cut short or altered, and the tags between which entries and calls are cut apart.
   append(all, {"<", "</", ">", "<Entry", "</Entry", "<Item>>", "</Item", "<LogList", "/LogList>",
                "<number>", "<Number >", "<Number/>", "<Item></Item>", "<Entry></Entry>",
                "</Item><Item>", "</Entry><Entry>", "<LogList></LogList>",
                "<NamePresentation>ALLOWED</NamePresentation>", "<Number>5</Number>"});
   append(all, valueTokens());
-  append(all, withMethods ? methodTags()
+  append(all, withMethods ? vocabulary::methodTags()
                           : std::vector<std::string>{"<getMissedCallList>", "<subscribe>"});
   return all;
 }

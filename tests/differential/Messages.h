@@ -1,4 +1,4 @@
-// The messages around which the texts are made, and the tokens that are put into them.
+// The messages that are edited, and the tokens that are put into them.
 #ifndef TESTS_DIFFERENTIAL_MESSAGES_H
 #define TESTS_DIFFERENTIAL_MESSAGES_H
 
@@ -20,14 +20,14 @@ std::vector<Message> logsOf(comparison::Kind kind);
 /// Requests, notifications, answers of the store and of the service.
 std::vector<Message> otherMessages();
 
-/// All tags, damaged tags, whitespace, odd bytes, entities, flags, words and numbers; the methods'
-/// tags only when they are asked for, else two of them.
+/// All tags, damaged tags, whitespace, odd bytes, entities, flags, words and numbers; all method
+/// tags or only two of them.
 std::vector<std::string> alphabet(bool withMethods);
 
-/// Values alone: what of the alphabet is no tag.
+/// The part of the alphabet that is no tag.
 std::vector<std::string> valueTokens();
 
-/// A record with every field set, and one with none but the entry id.
+/// A record with every field set, and one with the entry id alone.
 template <class Item>
 Item fullItem();
 template <class Item>

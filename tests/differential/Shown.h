@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "differential/Comparison.h"
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 namespace comparison {
 
@@ -31,11 +31,11 @@ std::string shown(std::pair<First, Second> const& value) {
 template <class Records>
 std::string shownInTurn(Records const& records);
 
-template <class Record, class = decltype(fieldsOf(std::declval<Record const&>())), class = void>
+template <class Record, std::enable_if_t<members::isRecord<Record>, int> = 0>
 std::string shown(Record const& record) {
   std::string all = "{";
-  forEachField(record, [&all](auto const& field) { all += " " + shown(field); });
-  if constexpr (HasCalls<Record>::value)
+  members::forEachValue(record, [&all](auto const& value) { all += " " + shown(value); });
+  if constexpr (members::isEntry<Record>)
     all += " calls" + shownInTurn(record.callInfoList);
   return all + " }";
 }

@@ -1,7 +1,7 @@
 // A utility library that marks what passes through it, so that tests see which texts do.
 //
-// One text is not marked: a text in square brackets is unescaped to what stands in them, for what
-// unescaping makes of a text is the utility library's affair, and it may make a word of one.
+// Texts in square brackets are not marked: they are unescaped to what is inside. The utility
+// library decides what unescaping returns, which may be a word of the messages.
 #include "ClientUtils.h"
 
 std::string ClientUtils::escapeXMLString(std::string const& text) {

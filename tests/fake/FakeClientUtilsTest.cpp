@@ -1,45 +1,69 @@
 // Which texts pass through the utility library, and which do not: the library is linked with one
 // that returns E(text) for an escaped text, U(text) for an unescaped one and I(number) for a
 // number.
+#include <string>
+#include <type_traits>
 #include <vector>
 
-#include "records/CursorModel.h"
+#include "records/MemberValues.h"
+#include "records/TestedKinds.h"
 
 using Helper = JournalServiceHelper;
-using cursor_model::Sort;
-using cursor_model::tagged;
-using kinds::Dialled;
-using kinds::Forwarded;
-using kinds::Missed;
-using kinds::Received;
+using kinds::tagged;
+using records::otherRecord;
+using records::otherValue;
+using records::RecordOf;
+using records::ValueOf;
 
 namespace {
 
-template <typename KindType>
+// What a member holds when its element was read with this value: a text is marked, a flag is read
+// raw, and the marked text of an enumeration names no member.
+template <class Member>
+ValueOf<Member> marked(Member const& member, ValueOf<Member> const& value) {
+  if constexpr (std::is_same_v<ValueOf<Member>, std::string>)
+    return "U(" + value + ")";
+  else if constexpr (std::is_same_v<ValueOf<Member>, bool>)
+    return value;
+  else
+    return member.in(RecordOf<Member>());
+}
+
+// What is read from a record with all members set.
+template <class Record>
+Record markedRecord() {
+  Record record;
+  members::forEachField<Record>([&record](auto const& member) {
+    if (member.travel == members::Travel::bothWays)
+      member.in(record) = marked(member, otherValue(member));
+  });
+  return record;
+}
+
+template <class KindType>
 class Marked : public ::testing::Test {
 protected:
   using Item = typename KindType::Item;
   using Info = typename KindType::Info;
 
-  // What a field holds when its element is present with this text.
-  static std::string valueOf(Sort sort, std::string const& text) {
-    return cursor_model::valueOf(sort, sort == Sort::FLAG ? text : "U(" + text + ")");
-  }
+  static void read(std::string const& text, Item& item) { KindType::readItem(text.c_str(), item); }
+  static void read(std::string const& text, Info& call) { KindType::readCall(text.c_str(), call); }
 
-  template <typename Record>
-  static void expectField(Record const& record, std::string const& field,
-                          std::string const& expected) {
-    record_fields::Fields fields = record_fields::of(Record());
-    for (auto& [name, value] : fields)
-      if (name == field)
-        value = expected;
-    EXPECT_EQ(record_fields::of(record), fields) << field;
+  // Calls check(member, element) for each member of an entry and of a call that is read.
+  template <class Check>
+  static void forEachRead(Check const& check) {
+    auto const checkRead = [&check](auto const& member) {
+      if (member.travel == members::Travel::bothWays)
+        check(member, std::string(member.element));
+    };
+    members::forEachField<Item>(checkRead);
+    members::forEachField<Info>(checkRead);
   }
 };
 
 TYPED_TEST_SUITE(Marked, kinds::All, kinds::KindNames);
 
-// Once asked for, a member's text gives the same again; other texts are asked for each time.
+// A reader remembers what a text of an enumeration was unescaped to, and asks again for any other.
 TYPED_TEST(Marked, EqualTextsReadTwice) {
   std::string const item = "<Item><NumberType>MOBILE</NumberType></Item>"
                            "<Item><NumberType>[MOBILE]</NumberType></Item>"
@@ -54,45 +78,56 @@ TYPED_TEST(Marked, EqualTextsReadTwice) {
                                                 NumberType::MOBILE, NumberType::PRIVATE}));
 }
 
-// One element present: its text is unescaped, an enumeration's too, so that it names no member. The
-// texts of the missing elements stay empty.
-TYPED_TEST(Marked, ElementsOfACallRead) {
-  for (auto const& element : cursor_model::callOrder(TypeParam())) {
-    std::string const text = cursor_model::sampleValue(element);
+// One element present: its text is unescaped, an enumeration's too. The texts of the missing
+// elements stay empty.
+TYPED_TEST(Marked, OneElementRead) {
+  this->forEachRead([](auto const& member, std::string const& element) {
     for (char const* before : {"", "\n"}) {
-      typename TypeParam::Info call;
-      TypeParam::readCall((before + cursor_model::sample(element)).c_str(), call);
-      if (element.sort == Sort::PASSED_OVER)
-        this->expectField(call, "none", "");
-      else
-        this->expectField(call, element.name, this->valueOf(element.sort, text));
+      RecordOf<decltype(member)> record;
+      auto expected = record;
+      member.in(expected) = marked(member, otherValue(member));
+      auto const text = tagged(element, records::spelled(otherValue(member)));
+      TestFixture::read(before + text, record);
+      EXPECT_EQ(record, expected) << text;
     }
-  }
+  });
 }
 
-TYPED_TEST(Marked, EveryMemberOfAnEnumerationReadIsNone) {
-  for (auto const& element : cursor_model::callOrder(TypeParam())) {
-    if (element.sort == Sort::FLAG)
-      continue;
-    for (std::string const& member : cursor_model::membersOf(element.sort)) {
-      typename TypeParam::Info call;
-      TypeParam::readCall(tagged(element.name, member).c_str(), call);
-      EXPECT_EQ(call, typename TypeParam::Info()) << element.name << " " << member;
-    }
-  }
-}
-
-// A member is what the unescaped text names. A flag is read from the text as it is.
+// A member of an enumeration is what the unescaped text names.
 TYPED_TEST(Marked, EveryMemberIsReadFromTheUnescapedText) {
-  for (auto const& element : cursor_model::callOrder(TypeParam())) {
-    if (element.sort == Sort::PRESENTATION_BETWEEN_BEGINS)
-      continue;
-    for (std::string const& member : cursor_model::membersOf(element.sort)) {
-      typename TypeParam::Info call;
-      TypeParam::readCall(tagged(element.name, "[" + member + "]").c_str(), call);
-      this->expectField(call, element.name, element.sort == Sort::FLAG ? "False" : member);
+  this->forEachRead([](auto const& member, std::string const& element) {
+    using Value = ValueOf<decltype(member)>;
+    if constexpr (std::is_enum_v<Value>)
+      for (auto const& enumerator : members::enumerators<Value>) {
+        std::string const name(enumerator.name);
+        RecordOf<decltype(member)> record;
+        auto expected = record;
+        TestFixture::read(tagged(element, name), record);
+        EXPECT_EQ(record, expected) << element << " " << name;
+        TestFixture::read(tagged(element, "[" + name + "]"), record);
+        member.in(expected) = enumerator.value;
+        EXPECT_EQ(record, expected) << element << " " << name;
+      }
+  });
+}
+
+// A flag is read from the text as it is.
+TYPED_TEST(Marked, FlagsAreReadRaw) {
+  this->forEachRead([](auto const& member, std::string const& element) {
+    if constexpr (std::is_same_v<ValueOf<decltype(member)>, bool>) {
+      RecordOf<decltype(member)> record;
+      TestFixture::read(tagged(element, "[True]"), record);
+      EXPECT_FALSE(member.in(record)) << element;
     }
-  }
+  });
+}
+
+TEST(MarkedDialledCall, NamePresentationBetweenTwoBeginTags) {
+  DialledCallItem::DialledCallInfo call;
+  kinds::Dialled::readCall("<NamePresentation>[ALLOWED]<NamePresentation>", call);
+  EXPECT_EQ(call.namePresentation, CallLogEntryEvent::ALLOWED);
+  kinds::Dialled::readCall("<NamePresentation>ALLOWED<NamePresentation>", call);
+  EXPECT_EQ(call.namePresentation, CallLogEntryEvent::NOT_AVAILABLE);
 }
 
 TYPED_TEST(Marked, AnEmptyElementReadIsPresent) {
@@ -103,47 +138,21 @@ TYPED_TEST(Marked, AnEmptyElementReadIsPresent) {
   EXPECT_EQ(call.number, "");
 }
 
-// Written in the writer's order, as a whole message: the same texts on the quick way.
+// A whole message as it is written, which the reader's fast path takes. The writer's marks are
+// removed first.
 TYPED_TEST(Marked, ALogRead) {
-  std::string entry;
-  for (auto const& element : cursor_model::entryOrder(TypeParam()))
-    entry += cursor_model::sample(element);
-  std::string item;
-  for (auto const& element : cursor_model::callOrder(TypeParam()))
-    item += tagged(element.name, cursor_model::sampleValue(element));
-  entry += "<LogList><Item>" + item + "</Item></LogList>";
-
+  auto item = otherRecord<typename TypeParam::Item>();
+  item.callInfoList.push_back(otherRecord<typename TypeParam::Info>());
+  auto text = TypeParam::respond({item, item}, 0);
+  for (auto at = text.find("E("); at != std::string::npos; at = text.find("E(")) {
+    text.erase(text.find(')', at), 1);
+    text.erase(at, 2);
+  }
+  auto expected = markedRecord<typename TypeParam::Item>();
+  expected.callInfoList.push_back(markedRecord<typename TypeParam::Info>());
   typename TypeParam::Log log;
-  TypeParam::readLog("<Entry>" + entry + "</Entry><Entry>" + entry + "</Entry>", log);
-  ASSERT_EQ(log.size(), 2U);
-  EXPECT_EQ(log[0], log[1]);
-  auto fields = record_fields::of(log[0]);
-  for (auto const& element : cursor_model::entryOrder(TypeParam())) {
-    std::string const expected = this->valueOf(element.sort, cursor_model::sampleValue(element));
-    for (auto const& [name, value] : fields)
-      if (name == element.name) {
-        EXPECT_EQ(value, expected) << name;
-      }
-  }
-  ASSERT_EQ(log[0].callInfoList.size(), 1U);
-  fields = record_fields::of(log[0].callInfoList.front());
-  for (auto const& element : cursor_model::callOrder(TypeParam())) {
-    for (auto const& [name, value] : fields)
-      if (name == element.name && element.sort != Sort::PASSED_OVER) {
-        EXPECT_EQ(value, this->valueOf(element.sort, cursor_model::sampleValue(element))) << name;
-      }
-  }
-}
-
-TYPED_TEST(Marked, ElementsOfAnEntryRead) {
-  for (auto const& element : cursor_model::entryOrder(TypeParam())) {
-    for (char const* before : {"", "\n"}) {
-      typename TypeParam::Item item;
-      TypeParam::readItem((before + cursor_model::sample(element)).c_str(), item);
-      this->expectField(item, element.name,
-                        this->valueOf(element.sort, cursor_model::sampleValue(element)));
-    }
-  }
+  TypeParam::readLog(text, log);
+  EXPECT_EQ(log, typename TypeParam::Log(2, expected));
 }
 
 // The handle's text is unescaped before it is read as a number.
@@ -166,16 +175,28 @@ TYPED_TEST(Marked, AHandleWritten) {
             "<Handle>I(7)</Handle>");
 }
 
-// Whether an escaped field is empty is asked of the escaped text.
-TYPED_TEST(Marked, AFreshEntryWritten) {
-  std::string out;
-  TypeParam::writeBody({}, out, false);
-  bool const missed = std::is_same_v<TypeParam, Missed>;
-  EXPECT_EQ(out, std::string("<Surname>E()</Surname><Firstname>E()</Firstname>") +
-                     (missed ? "<Viewed>False</Viewed>" : "") + "<LogList></LogList>");
-  out.clear();
-  TypeParam::writeBody({}, out, true);
-  EXPECT_EQ(out, "");
+// Whether an escaped text is left out is decided by the text that escaping returns.
+TYPED_TEST(Marked, EveryTextWritten) {
+  auto const expectWritten = [](auto const& member, auto const& record, std::string const& text) {
+    if constexpr (std::is_same_v<ValueOf<decltype(member)>, std::string>) {
+      if (member.travel == members::Travel::never)
+        return;
+      std::string const value = member.in(record);
+      bool const isEscaped = records::isEscaped(member);
+      auto const marked = isEscaped ? "E(" + value + ")" : value;
+      auto const begin = "<" + std::string(member.element) + ">";
+      EXPECT_EQ(text.find(begin + marked + "</") != std::string::npos, !marked.empty()) << text;
+      EXPECT_EQ(text.find(begin) != std::string::npos, !marked.empty()) << text;
+    }
+  };
+  using Entry = typename TypeParam::Item;
+  using Call = typename TypeParam::Info;
+  for (auto const& entry : {Entry(), otherRecord<Entry>()})
+    members::forEachField<Entry>(
+        [&](auto const& member) { expectWritten(member, entry, TypeParam::body(entry)); });
+  for (auto const& call : {Call(), otherRecord<Call>()})
+    members::forEachField<Call>(
+        [&](auto const& member) { expectWritten(member, call, TypeParam::oneCall(call)); });
 }
 
 TYPED_TEST(Marked, TheUniqueIdWrittenAlone) {
@@ -184,115 +205,6 @@ TYPED_TEST(Marked, TheUniqueIdWrittenAlone) {
   std::string out;
   TypeParam::writeBody(item, out, true);
   EXPECT_EQ(out, "<UniqueId>a</UniqueId>");
-}
-
-template <typename KindType>
-void setEntryTexts(typename KindType::Item& item) {
-  item.uniqueId = "u";
-  item.entryId = "e";
-  item.surname = "s";
-  item.firstname = "f";
-  item.picture = "p";
-  item.callInfoList.emplace_back();
-  auto& call = item.callInfoList.back();
-  call.infoKey = "never";
-  call.number = "n";
-  call.connectedNumber = "c";
-  call.connectedSurname = "cs";
-  call.connectedFirstName = "cf";
-  call.timeDate = "t";
-}
-
-template <typename KindType>
-std::string written(typename KindType::Item const& item) {
-  std::string out;
-  KindType::writeBody(item, out, false);
-  return out;
-}
-
-std::string const NAMED_ENTRY = "<UniqueId>u</UniqueId><EntryId>e</EntryId>"
-                                "<Surname>E(s)</Surname><Firstname>E(f)</Firstname>"
-                                "<Picture>p</Picture>";
-
-TEST(MarkedEntryWritten, Missed) {
-  MissedCallItem item;
-  setEntryTexts<Missed>(item);
-  item.callInfoList.back().deflectNumber = "d";
-  item.callInfoList.back().deflectName = "dn";
-  EXPECT_EQ(written<Missed>(item),
-            NAMED_ENTRY +
-                "<Viewed>False</Viewed><LogList><Item><Number>n</Number>"
-                "<NumberType>NO_ICON</NumberType><ConnectedNumber>c</ConnectedNumber>"
-                "<ConnectedNumberType>NO_ICON</ConnectedNumberType>"
-                "<ConnectedSurname>cs</ConnectedSurname>"
-                "<ConnectedFirstName>cf</ConnectedFirstName><TimeDate>t</TimeDate>"
-                "<TargetLog>OUT_BUSY</TargetLog>"
-                "<NumberPresentation>NOT_AVAILABLE</NumberPresentation>"
-                "<NamePresentation>NOT_AVAILABLE</NamePresentation>"
-                "<DeflectNumberPresentation>NOT_AVAILABLE</DeflectNumberPresentation>"
-                "<DeflectNumber>d</DeflectNumber><DeflectNumberType>NO_ICON</DeflectNumberType>"
-                "<DeflectNamePresentation>NOT_AVAILABLE</DeflectNamePresentation>"
-                "<DeflectName>dn</DeflectName><TimeFormat>FORM_24</TimeFormat></Item></LogList>");
-}
-
-TEST(MarkedEntryWritten, Dialled) {
-  DialledCallItem item;
-  setEntryTexts<Dialled>(item);
-  item.jsGroupBy = "g";
-  item.callInfoList.back().resolvedNumber = "r";
-  item.callInfoList.back().duration = "du";
-  EXPECT_EQ(written<Dialled>(item),
-            NAMED_ENTRY + "<JSGroupBy>g</JSGroupBy><LogList><Item><Number>n</Number>"
-                          "<NumberType>NO_ICON</NumberType><ResolvedNumber>r</ResolvedNumber>"
-                          "<ConnectedNumber>c</ConnectedNumber>"
-                          "<ConnectedNumberPriority>False</ConnectedNumberPriority>"
-                          "<ConnectedNumberType>NO_ICON</ConnectedNumberType>"
-                          "<ConnectedSurname>cs</ConnectedSurname>"
-                          "<ConnectedFirstName>cf</ConnectedFirstName><TimeDate>t</TimeDate>"
-                          "<Duration>du</Duration><TargetLog>OUT_BUSY</TargetLog>"
-                          "<NumberPresentation>NOT_AVAILABLE</NumberPresentation>"
-                          "<NamePresentation>NOT_AVAILABLE</NamePresentation>"
-                          "<TimeFormat>FORM_24</TimeFormat></Item></LogList>");
-}
-
-TEST(MarkedEntryWritten, Received) {
-  ReceivedCallItem item;
-  setEntryTexts<Received>(item);
-  item.callInfoList.back().deflectNumber = "d";
-  item.callInfoList.back().deflectName = "dn";
-  item.callInfoList.back().duration = "du";
-  EXPECT_EQ(written<Received>(item),
-            NAMED_ENTRY +
-                "<LogList><Item><Number>n</Number>"
-                "<NumberType>NO_ICON</NumberType><ConnectedNumber>c</ConnectedNumber>"
-                "<ConnectedNumberType>NO_ICON</ConnectedNumberType>"
-                "<ConnectedSurname>cs</ConnectedSurname>"
-                "<ConnectedFirstName>cf</ConnectedFirstName><TimeDate>t</TimeDate>"
-                "<Duration>du</Duration><TargetLog>OUT_BUSY</TargetLog>"
-                "<NumberPresentation>NOT_AVAILABLE</NumberPresentation>"
-                "<NamePresentation>NOT_AVAILABLE</NamePresentation>"
-                "<DeflectNumberPresentation>NOT_AVAILABLE</DeflectNumberPresentation>"
-                "<DeflectNumber>d</DeflectNumber><DeflectNumberType>NO_ICON</DeflectNumberType>"
-                "<DeflectNamePresentation>NOT_AVAILABLE</DeflectNamePresentation>"
-                "<DeflectName>dn</DeflectName><TimeFormat>FORM_24</TimeFormat></Item></LogList>");
-}
-
-TEST(MarkedEntryWritten, Forwarded) {
-  ForwardedCallItem item;
-  setEntryTexts<Forwarded>(item);
-  item.callInfoList.back().duration = "du";
-  item.callInfoList.emplace_back();
-  EXPECT_EQ(written<Forwarded>(item),
-            NAMED_ENTRY + "<LogList><Item><Number>n</Number><NumberType>NO_ICON</NumberType>"
-                          "<ConnectedNumber>c</ConnectedNumber>"
-                          "<ConnectedNumberType>NO_ICON</ConnectedNumberType>"
-                          "<ConnectedSurname>E(cs)</ConnectedSurname>"
-                          "<ConnectedFirstName>E(cf)</ConnectedFirstName><TimeDate>t</TimeDate>"
-                          "<Duration>du</Duration></Item>"
-                          "<Item><NumberType>NO_ICON</NumberType>"
-                          "<ConnectedNumberType>NO_ICON</ConnectedNumberType>"
-                          "<ConnectedSurname>E()</ConnectedSurname>"
-                          "<ConnectedFirstName>E()</ConnectedFirstName></Item></LogList>");
 }
 
 TEST(MarkedMessage, TextsReadFromAMessage) {
@@ -321,7 +233,7 @@ TEST(MarkedMessage, TextsReadFromAMessage) {
   EXPECT_EQ(value, "U()");
 }
 
-// The values that are made from a text are made from the unescaped one.
+// Flags, numbers and enumerations are made from the unescaped text.
 TEST(MarkedMessage, ValuesReadFromAMessage) {
   auto type = NumberType::PRIVATE;
   EXPECT_TRUE(Helper::getXMLValue("<NumberType>MOBILE</NumberType>", "NumberType", type));

@@ -40,7 +40,11 @@ DialledCallItem::DialledCallInfo secondCall() {
 
 } // namespace
 
-DialledCallItem fullDialledItem() {
+template <>
+unsigned int const Records<DialledCallItem>::HANDLE = 0;
+
+template <>
+DialledCallItem Records<DialledCallItem>::full() {
   DialledCallItem item;
   item.uniqueId = "D-2001";
   item.entryId = "72&73";
@@ -52,36 +56,29 @@ DialledCallItem fullDialledItem() {
   return item;
 }
 
-// A dialled call's NamePresentation never comes back from a message written here.
-DialledCallItem decodedFullDialledItem() {
-  DialledCallItem item = fullDialledItem();
+template <>
+DialledCallItem Records<DialledCallItem>::decodedFull() {
+  DialledCallItem item = members::asRead(full());
   item.jsGroupBy = "day=2007-05-14&week=20";
-  item.callInfoList.front().infoKey = "";
   item.callInfoList.front().connectedFirstName = "Jürgen <J>";
-  item.callInfoList.front().namePresentation = CallLogEntryEvent::NOT_AVAILABLE;
-  item.callInfoList.back().namePresentation = CallLogEntryEvent::NOT_AVAILABLE;
   return item;
 }
 
-DialledCallItem sparseDialledItem() {
+template <>
+DialledCallItem Records<DialledCallItem>::sparse() {
   DialledCallItem item;
   item.firstname = "Ж";
   item.callInfoList.emplace_back();
   return item;
 }
 
-std::deque<DialledCallItem> dialledLog() {
+template <>
+std::deque<DialledCallItem> Records<DialledCallItem>::log() {
   DialledCallItem named;
   named.surname = "</Entry>";
   named.firstname = "&lt;ñ&gt;";
   named.jsGroupBy = "g";
-  return {sparseDialledItem(), fullDialledItem(), named};
-}
-
-std::deque<DialledCallItem> decodedDialledLog() {
-  std::deque<DialledCallItem> log = dialledLog();
-  log[1] = decodedFullDialledItem();
-  return log;
+  return {sparse(), full(), named};
 }
 
 } // namespace golden

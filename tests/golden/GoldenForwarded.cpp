@@ -29,7 +29,11 @@ ForwardedCallItem::ForwardedCallInfo secondCall() {
 
 } // namespace
 
-ForwardedCallItem fullForwardedItem() {
+template <>
+unsigned int const Records<ForwardedCallItem>::HANDLE = 4294967295; // written "-1"
+
+template <>
+ForwardedCallItem Records<ForwardedCallItem>::full() {
   ForwardedCallItem item;
   item.uniqueId = "F-4001";
   item.entryId = "75";
@@ -40,34 +44,27 @@ ForwardedCallItem fullForwardedItem() {
   return item;
 }
 
-// A forwarded call's connected names are never read.
-ForwardedCallItem decodedFullForwardedItem() {
-  ForwardedCallItem item = fullForwardedItem();
-  item.callInfoList.front().infoKey = "";
-  item.callInfoList.front().connectedSurname = "";
-  item.callInfoList.front().connectedFirstName = "";
+template <>
+ForwardedCallItem Records<ForwardedCallItem>::decodedFull() {
+  ForwardedCallItem item = members::asRead(full());
   item.callInfoList.back().duration = "<1 min";
   return item;
 }
 
-ForwardedCallItem sparseForwardedItem() {
+template <>
+ForwardedCallItem Records<ForwardedCallItem>::sparse() {
   ForwardedCallItem item;
   item.surname = "&";
   item.callInfoList.emplace_back();
   return item;
 }
 
-std::deque<ForwardedCallItem> forwardedLog() {
+template <>
+std::deque<ForwardedCallItem> Records<ForwardedCallItem>::log() {
   ForwardedCallItem named;
   named.uniqueId = "F-4003";
   named.surname = "<LogList>Þór";
-  return {fullForwardedItem(), sparseForwardedItem(), named};
-}
-
-std::deque<ForwardedCallItem> decodedForwardedLog() {
-  std::deque<ForwardedCallItem> log = forwardedLog();
-  log[0] = decodedFullForwardedItem();
-  return log;
+  return {full(), sparse(), named};
 }
 
 } // namespace golden

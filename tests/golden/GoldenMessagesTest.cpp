@@ -9,72 +9,51 @@ namespace {
 
 using Helper = JournalServiceHelper;
 
-template <typename KindType>
+template <class KindType>
 class GoldenEntries : public ::testing::Test {
 protected:
-  static std::string named(std::string const& suffix) {
-    return golden::message(std::string(KindType::NAME) + "-" + suffix);
-  }
-
-  static std::string body(typename KindType::Item const& item) {
-    std::string text;
-    KindType::writeBody(item, text, false);
-    return text;
-  }
-
   static typename KindType::Item item(std::string const& text) {
     typename KindType::Item item;
     EXPECT_TRUE(KindType::readItemText(text, item));
     return item;
   }
+
+  static std::string updateOf(std::string const& suffix) {
+    std::string name = KindType::NAME;
+    name[0] = static_cast<char>(name[0] - 'a' + 'A');
+    return golden::message("obsReq" + name + "CallsUpdate" + suffix);
+  }
 };
 
 TYPED_TEST_SUITE(GoldenEntries, kinds::All, kinds::KindNames);
 
-TYPED_TEST(GoldenEntries, Full) {
-  EXPECT_EQ(this->body(TypeParam::full()), this->named("full"));
-  EXPECT_EQ(this->item(this->named("full")), TypeParam::decodedFull());
-}
-
-TYPED_TEST(GoldenEntries, Sparse) {
-  EXPECT_EQ(this->body(TypeParam::sparse()), this->named("sparse"));
-  EXPECT_EQ(this->item(this->named("sparse")), TypeParam::sparse());
-}
-
 TYPED_TEST(GoldenEntries, Log) {
-  EXPECT_EQ(TypeParam::respond(TypeParam::log(), TypeParam::HANDLE), this->named("log"));
+  auto const text = golden::message(std::string(TypeParam::NAME) + "-log");
+  EXPECT_EQ(TypeParam::respond(TypeParam::log(), TypeParam::HANDLE), text);
   typename TypeParam::Log items;
   unsigned int handle = 99;
-  EXPECT_TRUE(TypeParam::readLogAndHandle(this->named("log"), items, handle));
+  EXPECT_TRUE(TypeParam::readLogAndHandle(text, items, handle));
   EXPECT_EQ(items, TypeParam::decodedLog());
   EXPECT_EQ(handle, TypeParam::HANDLE);
 }
 
-std::string updateOf(kinds::Missed) {
-  return "obsReqMissedCallsUpdate";
-}
-std::string updateOf(kinds::Dialled) {
-  return "obsReqDialledCallsUpdate";
-}
-std::string updateOf(kinds::Received) {
-  return "obsReqReceivedCallsUpdate";
-}
-std::string updateOf(kinds::Forwarded) {
-  return "obsReqForwardedCallsUpdate";
+TYPED_TEST(GoldenEntries, BodiesOfTheLog) {
+  EXPECT_EQ(TypeParam::body(TypeParam::full()), TypeParam::goldenBody(TypeParam::full()));
+  EXPECT_EQ(this->item(TypeParam::goldenBody(TypeParam::full())), TypeParam::decodedFull());
+  EXPECT_EQ(this->item(TypeParam::goldenBody(TypeParam::sparse())), TypeParam::sparse());
 }
 
-TYPED_TEST(GoldenEntries, Notification) {
-  std::string const text = golden::message(updateOf(TypeParam()));
-  EXPECT_EQ(TypeParam::notify(TypeParam::full(), "", JournalServiceObserverIfc::ENTRY_CHANGED, 12),
-            text);
-  EXPECT_EQ(this->item(text), TypeParam::decodedFull());
-}
-
-TYPED_TEST(GoldenEntries, NotificationWithAnEntryRemoved) {
-  std::string const text = golden::message(updateOf(TypeParam()) + "-removing");
-  EXPECT_EQ(TypeParam::notify(TypeParam::full(), "17", JournalServiceObserverIfc::ENTRY_ADDED, 0),
-            text);
-  EXPECT_EQ(this->item(text), TypeParam::decodedFull());
+TYPED_TEST(GoldenEntries, Notifications) {
+  auto item = TypeParam::full();
+  auto decoded = TypeParam::decodedFull();
+  item.callInfoList.clear();
+  decoded.callInfoList.clear();
+  EXPECT_EQ(TypeParam::notify(item, "", JournalServiceObserverIfc::ENTRY_CHANGED, 12),
+            this->updateOf(""));
+  EXPECT_EQ(TypeParam::notify(item, "17", JournalServiceObserverIfc::ENTRY_ADDED, 0),
+            this->updateOf("-removing"));
+  EXPECT_EQ(this->item(this->updateOf("")), decoded);
+  EXPECT_EQ(this->item(this->updateOf("-removing")), decoded);
 }
 
 struct Row {

@@ -42,7 +42,11 @@ MissedCallItem::MissedCallInfo secondCall() {
 
 } // namespace
 
-MissedCallItem fullMissedItem() {
+template <>
+unsigned int const Records<MissedCallItem>::HANDLE = 7;
+
+template <>
+MissedCallItem Records<MissedCallItem>::full() {
   MissedCallItem item;
   item.uniqueId = "M-1001";
   item.entryId = "71";
@@ -54,34 +58,30 @@ MissedCallItem fullMissedItem() {
   return item;
 }
 
-MissedCallItem decodedFullMissedItem() {
-  MissedCallItem item = fullMissedItem();
+template <>
+MissedCallItem Records<MissedCallItem>::decodedFull() {
+  MissedCallItem item = members::asRead(full());
   item.picture = "pics/71.png?a=1&b=2";
-  item.callInfoList.front().infoKey = "";
   return item;
 }
 
-MissedCallItem sparseMissedItem() {
+template <>
+MissedCallItem Records<MissedCallItem>::sparse() {
   MissedCallItem item;
   item.entryId = "8";
   item.callInfoList.emplace_back();
   return item;
 }
 
-std::deque<MissedCallItem> missedLog() {
+template <>
+std::deque<MissedCallItem> Records<MissedCallItem>::log() {
   MissedCallItem named;
   named.uniqueId = "M-1002";
   named.surname = "<b>李 & 王</b>";
   named.firstname = "</Firstname>😀";
   MissedCallItem viewed;
   viewed.viewed = true;
-  return {fullMissedItem(), named, sparseMissedItem(), viewed};
-}
-
-std::deque<MissedCallItem> decodedMissedLog() {
-  std::deque<MissedCallItem> log = missedLog();
-  log[0] = decodedFullMissedItem();
-  return log;
+  return {full(), named, sparse(), viewed};
 }
 
 } // namespace golden

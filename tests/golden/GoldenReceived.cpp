@@ -45,7 +45,11 @@ ReceivedCallItem::ReceivedCallInfo secondCall() {
 
 } // namespace
 
-ReceivedCallItem fullReceivedItem() {
+template <>
+unsigned int const Records<ReceivedCallItem>::HANDLE = 2147483647;
+
+template <>
+ReceivedCallItem Records<ReceivedCallItem>::full() {
   ReceivedCallItem item;
   item.uniqueId = "R-3001";
   item.entryId = "74";
@@ -56,33 +60,26 @@ ReceivedCallItem fullReceivedItem() {
   return item;
 }
 
-// A received call's connected names are never read.
-ReceivedCallItem decodedFullReceivedItem() {
-  ReceivedCallItem item = fullReceivedItem();
-  item.callInfoList.front().infoKey = "";
-  item.callInfoList.front().connectedSurname = "";
-  item.callInfoList.front().connectedFirstName = "";
+template <>
+ReceivedCallItem Records<ReceivedCallItem>::decodedFull() {
+  ReceivedCallItem item = members::asRead(full());
   return item;
 }
 
-ReceivedCallItem sparseReceivedItem() {
+template <>
+ReceivedCallItem Records<ReceivedCallItem>::sparse() {
   ReceivedCallItem item;
   item.uniqueId = "0";
   item.callInfoList.emplace_back();
   return item;
 }
 
-std::deque<ReceivedCallItem> receivedLog() {
+template <>
+std::deque<ReceivedCallItem> Records<ReceivedCallItem>::log() {
   ReceivedCallItem named;
   named.entryId = "9";
   named.firstname = "Ἀθηνᾶ '<Handle>1</Handle>'";
-  return {ReceivedCallItem(), fullReceivedItem(), sparseReceivedItem(), named};
-}
-
-std::deque<ReceivedCallItem> decodedReceivedLog() {
-  std::deque<ReceivedCallItem> log = receivedLog();
-  log[1] = decodedFullReceivedItem();
-  return log;
+  return {ReceivedCallItem(), full(), sparse(), named};
 }
 
 } // namespace golden

@@ -1,4 +1,4 @@
-// How often decoding and encoding a log allocate.
+// How many allocations decoding and encoding a log make.
 #include <cstddef>
 #include <deque>
 #include <iostream>
@@ -22,8 +22,8 @@ using allocations::countedIn;
 constexpr std::size_t sizes[] = {1, 100, 1000};
 
 // The record lists are not the only ones that grow while a log is read: the deque's table of blocks
-// doubles as entries come in, where a copy makes it in one piece (9 times for 1000 entries of two
-// to a block), and one text buffer grows with the longest raw values met.
+// doubles as entries are added, where a copy allocates it at once (9 times for 1000 entries of two
+// to a block), and one text buffer grows with the longest raw value.
 constexpr long GROWTH = 24;
 
 template <class Item>
@@ -48,8 +48,8 @@ protected:
     return count;
   }
 
-  // What it allocates beyond the names themselves when a log is read: a short name of a longer
-  // escaped form comes back in a string that has room for that form.
+  // What it allocates besides the names themselves when a log is read: a short name with a longer
+  // escaped form comes back in a string with the capacity for that form.
   static long besidesUnescapedNames(Log const& log) {
     return sumOverNames(log, [](std::string const& name) {
       auto const escaped = ClientUtils::escapeXMLString(name);
@@ -73,7 +73,7 @@ using Items =
 struct Names {
   template <class Item>
   static std::string GetName(int) {
-    return comparison::KindOperations<Item, JournalServiceHelper>::name();
+    return comparison::KindOperations<Item, JournalServiceHelper>::NAME;
   }
 };
 TYPED_TEST_SUITE(AllocationCount, Items, Names);
@@ -89,7 +89,7 @@ TYPED_TEST(AllocationCount, OfDecodingIsThatOfCopyingTheResult) {
     auto const copying = this->inCopying(decoded);
     auto const names = this->besidesUnescapedNames(log);
     EXPECT_LE(decoding, copying + names + GROWTH) << size << " entries";
-    std::cout << Kind::name() << ", " << size << " entries: decoding allocates " << decoding
+    std::cout << Kind::NAME << ", " << size << " entries: decoding allocates " << decoding
               << " times, copying " << copying << ", short names of a long form " << names << "\n";
   }
 }
@@ -104,7 +104,7 @@ TYPED_TEST(AllocationCount, OfEncodingIsOneBesidesEscapedNames) {
     auto const encoding = countedIn([&] { message = Kind::respond(log, 1); });
     EXPECT_EQ(encoding, 1 + names) << size << " entries";
     EXPECT_FALSE(message.empty());
-    std::cout << Kind::name() << ", " << size << " entries: encoding allocates " << encoding
+    std::cout << Kind::NAME << ", " << size << " entries: encoding allocates " << encoding
               << " times, " << names << " of them for escaped names\n";
   }
 }

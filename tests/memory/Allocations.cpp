@@ -11,7 +11,7 @@ namespace {
 std::atomic<long> madeCount{0};
 std::atomic<long> liveCount{0};
 
-// How many more succeed before one fails; negative for none to fail.
+// How many more succeed before one fails; negative when none is to fail.
 constexpr long NEVER = -1;
 std::atomic<long> untilFailure{NEVER};
 std::atomic<bool> failsOn{false};
@@ -31,39 +31,15 @@ bool fails() {
   return true;
 }
 
-void* allocate(std::size_t size, std::size_t alignment) noexcept {
+void* allocate(std::size_t size) noexcept {
   if (fails())
     return nullptr;
-  auto const wanted = size > 0 ? size : 1;
-  void* block = nullptr;
-  if (alignment <= alignof(std::max_align_t))
-    block = std::malloc(wanted);
-  else if (posix_memalign(&block, alignment, wanted) != 0)
-    block = nullptr;
+  void* const block = std::malloc(size > 0 ? size : 1);
   if (block != nullptr) {
     ++madeCount;
     ++liveCount;
   }
   return block;
-}
-
-void* allocateOrThrow(std::size_t size, std::size_t alignment) {
-  void* const block = allocate(size, alignment);
-  if (block == nullptr)
-    throw std::bad_alloc();
-  return block;
-}
-
-void release(void* block) noexcept {
-  if (block == nullptr)
-    return;
-  --liveCount;
-  std::free(block);
-}
-
-constexpr std::size_t plain = alignof(std::max_align_t);
-constexpr std::size_t of(std::align_val_t alignment) {
-  return static_cast<std::size_t>(alignment);
 }
 
 } // namespace
@@ -91,68 +67,27 @@ long Failure::injected() const {
 
 } // namespace allocations
 
-using Size = std::size_t;
-using Align = std::align_val_t;
-using Nothrow = std::nothrow_t const&;
+// The array forms of the standard library call these. Nothing here needs more than the usual
+// alignment.
 
-void* operator new(Size size) {
-  return allocateOrThrow(size, plain);
+void* operator new(std::size_t size) {
+  void* const block = allocate(size);
+  if (block == nullptr)
+    throw std::bad_alloc();
+  return block;
 }
-void* operator new[](Size size) {
-  return allocateOrThrow(size, plain);
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+  return allocate(size);
 }
-void* operator new(Size size, Align alignment) {
-  return allocateOrThrow(size, of(alignment));
-}
-void* operator new[](Size size, Align alignment) {
-  return allocateOrThrow(size, of(alignment));
-}
-void* operator new(Size size, Nothrow) noexcept {
-  return allocate(size, plain);
-}
-void* operator new[](Size size, Nothrow) noexcept {
-  return allocate(size, plain);
-}
-void* operator new(Size size, Align alignment, Nothrow) noexcept {
-  return allocate(size, of(alignment));
-}
-void* operator new[](Size size, Align alignment, Nothrow) noexcept {
-  return allocate(size, of(alignment));
-}
-
 void operator delete(void* block) noexcept {
-  release(block);
+  if (block == nullptr)
+    return;
+  --liveCount;
+  std::free(block);
 }
-void operator delete[](void* block) noexcept {
-  release(block);
+void operator delete(void* block, std::size_t) noexcept {
+  ::operator delete(block);
 }
-void operator delete(void* block, Size) noexcept {
-  release(block);
-}
-void operator delete[](void* block, Size) noexcept {
-  release(block);
-}
-void operator delete(void* block, Align) noexcept {
-  release(block);
-}
-void operator delete[](void* block, Align) noexcept {
-  release(block);
-}
-void operator delete(void* block, Size, Align) noexcept {
-  release(block);
-}
-void operator delete[](void* block, Size, Align) noexcept {
-  release(block);
-}
-void operator delete(void* block, Nothrow) noexcept {
-  release(block);
-}
-void operator delete[](void* block, Nothrow) noexcept {
-  release(block);
-}
-void operator delete(void* block, Align, Nothrow) noexcept {
-  release(block);
-}
-void operator delete[](void* block, Align, Nothrow) noexcept {
-  release(block);
+void operator delete(void* block, std::nothrow_t const&) noexcept {
+  ::operator delete(block);
 }

@@ -25,7 +25,7 @@ using operations::Outputs;
 using operations::ResultHash;
 using scenes::Scene;
 
-// Those that answer without a text of their own, or with one that a string holds in itself.
+// Those that return no text, or one short enough for the string itself.
 std::set<std::string> const allocateNever = {
     "convertNumberType/read",         "convertNumberType/write", "convertPresentationValue/read",
     "convertPresentationValue/write", "convertTargetLog/read",   "convertTargetLog/write",
@@ -113,7 +113,7 @@ void expectValidRecords(int kind, Outputs const& outputs, std::vector<Operation>
   }
 }
 
-// Tries operations and sums the failures up.
+// Runs operations with failing allocations, and counts the failures.
 class FailingMemory : public ::testing::Test {
 protected:
   long injectedInto(Operation const& operation) {
@@ -128,14 +128,14 @@ protected:
     return injected;
   }
 
-  std::vector<Operation> const operations_ = operations::all<JournalServiceHelper>();
+  std::vector<Operation> const operations_ = operations::all();
 
 private:
   long untilItSucceeds(Operation const& operation, Input const& input, bool filled,
                        Failing failing) {
-    auto straight = outputsFor(input, filled);
-    operation.run(input, straight);
-    auto const expected = hashOf(operation, straight);
+    auto undisturbed = outputsFor(input, filled);
+    operation.run(input, undisturbed);
+    auto const expected = hashOf(operation, undisturbed);
     auto const inputBefore = hashOf(input);
 
     long injected = 0;
@@ -156,7 +156,7 @@ private:
     Failing failing;
   };
 
-  // Gives the number of allocations that failed.
+  // Returns the number of allocations that failed.
   long runFailing(Operation const& operation, Input const& input, bool filled, When when,
                   std::uint64_t expected) {
     auto outputs = outputsFor(input, filled);
@@ -182,7 +182,7 @@ private:
     return injected;
   }
 
-  // The same outputs once more, now with memory; the result is that of a first time.
+  // Runs again on the same outputs, now with memory: the result must be as in a first run.
   void runAgain(Operation const& operation, Input const& input, Outputs& outputs) {
     outputs.argument = input.name;
     if (appends(operation))
@@ -205,15 +205,15 @@ TEST_F(FailingMemory, EachAllocationOfEachOperation) {
     total += injected;
   }
   EXPECT_EQ(didNotAllocate, allocateNever);
-  EXPECT_EQ(operations_.size(), operations::COUNT);
+  EXPECT_EQ(operations_.size(), 99U) << "every operation has its row in the table";
   EXPECT_GT(total, 0);
   std::cout << total << " allocation failures injected into "
             << operations_.size() - didNotAllocate.size() << " operations; "
             << didNotAllocate.size() << " allocate nothing\n";
 }
 
-// What a field held before is given up before its new text is made, so the field must be whole
-// again when there is no memory for that.
+// A reader discards what a field held before it makes the new text. When there is no memory for
+// that, the field must be usable all the same.
 TEST(FailingMemoryOfOneRecord, LeavesFieldsThatHeldLongTextsUsable) {
   std::string const before(100, 'b');
   std::string const text = "<Number>" + std::string(200, 'n') + "</Number><DeflectName>" +

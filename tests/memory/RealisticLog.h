@@ -24,7 +24,7 @@ inline constexpr char const* surnames[] = {
 };
 inline constexpr char const* firstnames[] = {"Anna", "Zoë", "Jean-Christophe Maximilian", "",
                                              "D'Arcy"};
-// Most kinds write a call's names as they are, where markup would damage the message.
+// Most kinds copy a call's names raw, so that markup would damage the message.
 inline constexpr char const* connectedSurnames[] = {"Berg", "Garcia & Sons", "Łukasiewicz-Müller",
                                                     ""};
 inline constexpr char const* numbers[] = {"+4930901820", "110", "5559", "+4989722330144"};

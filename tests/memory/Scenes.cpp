@@ -1,11 +1,11 @@
-// Inputs with which every operation that allocates at all does so.
+// Inputs that make every operation allocate that allocates at all.
 #include "memory/Scenes.h"
 
 #include <string>
 #include <tuple>
 #include <type_traits>
 
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 namespace scenes {
 namespace {
@@ -17,7 +17,7 @@ using operations::Outputs;
 
 template <class Record>
 void fill(Record& record, std::string const& text) {
-  comparison::forEachField(record, [&text](auto& field) {
+  members::forEachValue(record, [&text](auto& field) {
     if constexpr (std::is_same_v<std::decay_t<decltype(field)>, std::string>)
       field = text + ", which no string holds in itself, & has <markup>";
   });
@@ -54,7 +54,7 @@ Input base() {
   return input;
 }
 
-// The raw texts go into messages without escaping, where markup would damage them.
+// Texts that are copied raw would damage a message with their markup.
 std::string withoutMarkup(std::string text) {
   std::string const markup = "<markup>";
   for (auto at = text.find(markup); at != std::string::npos; at = text.find(markup))
@@ -70,7 +70,7 @@ struct Messages {
 
 Messages messagesOf(int kind, Input const& input) {
   Messages messages;
-  for (auto const& operation : operations::all<JournalServiceHelper>()) {
+  for (auto const& operation : operations::all()) {
     if (operation.kind != kind || !operation.writesRecords)
       continue;
     Outputs outputs(input);

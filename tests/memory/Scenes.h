@@ -1,5 +1,5 @@
-// Inputs with which every operation that allocates at all does so: long texts, markup, several
-// entries and calls; straight and damaged.
+// Inputs that make every operation allocate that allocates at all: long texts, markup, several
+// entries and calls; in order and damaged.
 #ifndef TESTS_MEMORY_SCENES_H
 #define TESTS_MEMORY_SCENES_H
 

@@ -1,19 +1,16 @@
-// Inputs made by a generator of our own, so that they are the same on every machine.
+// Random inputs that are the same on every machine.
 #ifndef TESTS_OPERATIONS_INPUTS_H
 #define TESTS_OPERATIONS_INPUTS_H
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <deque>
 #include <string>
 #include <tuple>
 #include <type_traits>
-#include <utility>
-#include <vector>
 
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 #include "operations/Operations.h"
+#include "vocabulary/Constants.h"
 
 namespace operations {
 
@@ -37,7 +34,7 @@ private:
   std::uint64_t state_;
 };
 
-/// Numbers at the borders of the signed and unsigned 32 bits, among others.
+/// Numbers at the limits of signed and unsigned 32 bits, among others.
 inline constexpr std::uint32_t numbers[] = {0,    1,          2,          9,         10,
                                             4711, 2147483647, 2147483648, 4294967295};
 
@@ -63,108 +60,15 @@ inline std::string const& someText(Random& random) {
   return random.oneOf(texts);
 }
 
-/// Elements that are asked for and put in, by their names.
-inline constexpr std::array elementNames = {
-    "Entry",          "LogList",
-    "Item",           "UniqueId",
-    "EntryId",        "Surname",
-    "Firstname",      "Picture",
-    "JSGroupBy",      "Viewed",
-    "Number",         "NumberType",
-    "ResolvedNumber", "ConnectedNumber",
-    "TimeDate",       "ConnectedNumberPriority",
-    "Duration",       "ConnectedNumberType",
-    "TargetLog",      "ConnectedSurname",
-    "DeflectName",    "ConnectedFirstName",
-    "DeflectNumber",  "NumberPresentation",
-    "TimeFormat",     "NamePresentation",
-    "Handle",         "DeflectNumberPresentation",
-    "Method",         "DeflectNumberType",
-    "ActionType",     "DeflectNamePresentation",
-    "CallLogEnabled", "UniqueIdToDelete",
-    "Value",          "",
-};
-
-/// What an edit puts into a message.
-inline std::string someToken(Random& random) {
-  static std::string const others[] = {
-      "<",          "</",      ">",           "&",        "&am",
-      "&lt;",       " ",       "\n",          "\xff",     "True",
-      "true",       "Failure", "IN_ANSWERED", "ALLOWED",  "FORM",
-      "BUSINESS1",  "-1",      "+12x",        " 3",       "99999999999",
-      "2147483648", "<Entry",  "<Item/>",     "</LogLis", std::string(1, '\0'),
-  };
-  std::string const name = random.oneOf(elementNames);
-  switch (random.below(8)) {
-  case 0:
-  case 1:
-    return "<" + name + ">";
-  case 2:
-  case 3:
-    return "</" + name + ">";
-  case 4:
-    return "<" + name + ">" + someText(random) + "</" + name + ">";
-  default:
-    return random.oneOf(others);
-  }
-}
-
-/// A message cut into its tags and what stands between them.
-inline std::vector<std::string> tokensOf(std::string const& message) {
-  std::vector<std::string> tokens;
-  for (std::size_t at = 0; at < message.size();) {
-    auto end = message[at] == '<' ? message.find('>', at) : message.find('<', at);
-    if (end != std::string::npos && message[at] == '<')
-      ++end;
-    end = std::min(end, message.size());
-    tokens.push_back(message.substr(at, end - at));
-    at = end;
-  }
-  return tokens;
-}
-
-/// Inserts, deletes, replaces, swaps or repeats one token.
-inline void edit(std::vector<std::string>& tokens, Random& random) {
-  if (tokens.empty())
-    tokens.push_back(someToken(random));
-  auto const at = tokens.begin() + random.below(tokens.size());
-  switch (random.below(5)) {
-  case 0:
-    tokens.insert(at, someToken(random));
-    break;
-  case 1:
-    tokens.erase(at);
-    break;
-  case 2:
-    *at = someToken(random);
-    break;
-  case 3:
-    std::swap(*at, tokens[random.below(tokens.size())]);
-    break;
-  default:
-    tokens.insert(at, std::string(tokens[random.below(tokens.size())]));
-  }
-}
-
-inline std::string damaged(std::string const& message, std::uint32_t edits, Random& random) {
-  auto tokens = tokensOf(message);
-  while (edits-- > 0)
-    edit(tokens, random);
-  std::string text;
-  for (auto const& token : tokens)
-    text += token;
-  return text;
-}
-
 template <class Record>
 void fill(Record& record, Random& random) {
-  comparison::forEachField(record, [&random](auto& field) {
+  members::forEachValue(record, [&random](auto& field) {
     using Field = std::decay_t<decltype(field)>;
     if constexpr (std::is_same_v<Field, std::string>)
       field = someText(random);
     else if constexpr (std::is_same_v<Field, bool>)
       field = random.below(2) == 1;
-    else // one more than there are members, so that values outside occur
+    else // more than any enumeration has members, so that values outside occur
       field = static_cast<Field>(static_cast<std::int32_t>(random.below(8)));
   });
 }
@@ -202,7 +106,7 @@ inline void fillRecords(Input& input, Random& random) {
 
 /// Another element to ask for.
 inline void chooseElement(Input& input, Random& random) {
-  input.name = random.oneOf(elementNames);
+  input.name = random.oneOf(vocabulary::elementNames());
   input.begin = "<" + input.name + ">";
   input.close = "</" + input.name + ">";
 }

@@ -1,5 +1,5 @@
-// Every operation in one table, to be run on one kind of input and to write into one kind of
-// output, whatever its parameters are.
+// A table of all operations. Each row runs on the same type of input and writes into the same type
+// of output, whatever the operation's parameters are.
 #ifndef TESTS_OPERATIONS_OPERATIONS_H
 #define TESTS_OPERATIONS_OPERATIONS_H
 
@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "JournalServiceHelper.h"
+#include "members/Members.h"
 #include "resulthash/ResultHash.h"
 
 namespace operations {
@@ -22,7 +23,7 @@ using Dialled = DialledCallItem;
 using Received = ReceivedCallItem;
 using Forwarded = ForwardedCallItem;
 template <class Item>
-using InfoOf = typename decltype(Item::callInfoList)::value_type;
+using InfoOf = members::CallOf<Item>;
 
 /// What operations read. The first text of an operation is `text`, a second one `name`; a cursor's
 /// tags are `begin` and `close`.
@@ -44,7 +45,7 @@ struct Outputs {
   explicit Outputs(Input const& input) : edited(input.text), argument(input.name) {}
 
   std::string edited;   // a text that is both read and written
-  std::string argument; // a text that is handed over by value
+  std::string argument; // a text that is passed by value
   std::string text = "held before";
   bool flag = true;
   unsigned int number = 77;
@@ -57,7 +58,7 @@ struct Outputs {
              std::deque<Dialled>, std::deque<Received>, std::deque<Forwarded>>
       records;
 
-  /// Puts the input's records into the outputs, so that decoders find outputs in use.
+  /// Puts the input's records into the outputs, so that decoders are given records in use.
   void fill(Input const& input) {
     fillKind<Missed>(input);
     fillKind<Dialled>(input);
@@ -89,14 +90,9 @@ struct Operation {
   std::function<void(Outputs const&, ResultHash&)> feed; // hashes what it wrote
 };
 
-/// The operations of a class that has them all, in the order of the header but for the kinds:
-/// all<JournalServiceHelper>() are the library's, all<Reference>() those of the plain
-/// implementation. The compiler needs long for a table, so each is made in a file of its own.
-template <class Operations>
+/// All operations of JournalServiceHelper, in the order of the header except that each kind has its
+/// operations together.
 std::vector<Operation> all();
-
-/// How many there are: all of JournalServiceHelper.
-constexpr std::size_t COUNT = 99;
 
 } // namespace operations
 

@@ -10,7 +10,7 @@ class CallListDecoding : public ::testing::Test {
 protected:
   using List = typename KindType::InfoList;
 
-  // The numbers of the calls that a text yields, one behind the other, each in brackets.
+  // The numbers of the calls that a text yields, one after the other, each in brackets.
   static std::string numbersIn(char const* text, bool expected) {
     List list(3); // what the list held is discarded
     EXPECT_EQ(KindType::readCalls(text, list), expected) << (text != nullptr ? text : "null");
@@ -80,7 +80,7 @@ TYPED_TEST(CallListDecoding, TextsThatHoldCalls) {
       {"<LogList><Item>a<Item><Number>1</Number></Item>b</Item><Item><Number>2</Number></Item>"
        "</LogList>",
        "[1][2]"},
-      // What stands around the items is passed over.
+      // What surrounds the items is ignored.
       {"x<LogList>y<Number>0</Number><Item><Number>1</Number></Item>\n</Item>\n"
        "<Item><Number>2</Number></Item>z</LogList>",
        "[1][2]"},

@@ -29,7 +29,7 @@ protected:
     return result;
   }
 
-  // The log of three entries with the handle behind them, or in front.
+  // The golden log with the handle at its end, or in front.
   static std::string text(bool handleInFront) {
     std::string const message = golden::message(std::string(KindType::NAME) + "-log");
     auto const at = message.rfind("<Handle>");
@@ -83,8 +83,8 @@ TYPED_TEST(DamagedLog, ANulAtEveryPositionCutsTheText) {
   }
 }
 
-// A byte of a log replaced: whatever comes of it, both overloads agree (see read), the text stays,
-// and damage behind an entry's close tag does not reach the entry.
+// A byte of a log replaced: whatever is read, both overloads agree (see read), the text is not
+// changed, and the damage does not affect the entries in front of it.
 TYPED_TEST(DamagedLog, AByteReplacedLeavesTheEntriesInFrontOfItAlone) {
   std::string const whole = this->text(false);
   auto const all = TypeParam::decodedLog();

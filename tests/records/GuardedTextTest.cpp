@@ -1,5 +1,5 @@
-// Texts between pages that may not be touched: a read in front of a text or behind its NUL ends the
-// program, on any machine and without a sanitizer.
+// Texts between inaccessible pages: a read in front of a text or past its NUL ends the program, on
+// any machine and without a sanitizer.
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Readable pages with a page on each side that is not.
+/// Readable pages with an inaccessible page on each side.
 class Guarded {
 public:
   explicit Guarded(std::size_t atLeast)
@@ -32,15 +32,15 @@ public:
   Guarded(Guarded const&) = delete;
   Guarded& operator=(Guarded const&) = delete;
 
-  bool stands() const { return pages_ != nullptr; }
+  bool isThere() const { return pages_ != nullptr; }
 
-  /// The text, its first character behind a guard.
-  char const* inFront(std::string const& text) {
+  /// The text, with its first character right after a guard page.
+  char const* afterGuard(std::string const& text) {
     return static_cast<char const*>(std::memcpy(pages_ + page_, text.c_str(), text.size() + 1));
   }
 
-  /// The text, its NUL in front of a guard.
-  char const* behind(std::string const& text) {
+  /// The text, with its NUL right before a guard page.
+  char const* beforeGuard(std::string const& text) {
     auto* const at = pages_ + page_ + size_ - text.size() - 1;
     return static_cast<char const*>(std::memcpy(at, text.c_str(), text.size() + 1));
   }
@@ -51,7 +51,7 @@ private:
   char* pages_ = nullptr;
 };
 
-template <typename KindType>
+template <class KindType>
 class GuardedText : public ::testing::Test {
 protected:
   static void read(char const* text) {
@@ -67,16 +67,16 @@ protected:
 TYPED_TEST_SUITE(GuardedText, kinds::All, kinds::KindNames);
 
 TYPED_TEST(GuardedText, IsReadFromItsFirstCharacterToItsNul) {
-  auto const body = golden::message(std::string(TypeParam::NAME) + "-full");
+  auto const body = TypeParam::goldenBody(TypeParam::full());
   Guarded guarded(body.size());
-  ASSERT_TRUE(guarded.stands());
+  ASSERT_TRUE(guarded.isThere());
   for (std::size_t cut = 0; cut <= body.size(); ++cut) {
-    this->read(guarded.inFront(body.substr(cut)));
-    this->read(guarded.behind(body.substr(cut)));
-    this->read(guarded.behind(body.substr(0, cut)));
+    this->read(guarded.afterGuard(body.substr(cut)));
+    this->read(guarded.beforeGuard(body.substr(cut)));
+    this->read(guarded.beforeGuard(body.substr(0, cut)));
   }
-  // Shorter than the value that mostly stands there.
-  this->read(guarded.behind("<ConnectedNumberType></ConnectedNumberType>"));
+  // Shorter than the usual value, which the reader compares first.
+  this->read(guarded.beforeGuard("<ConnectedNumberType></ConnectedNumberType>"));
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 namespace {
 
-template <typename KindType>
+template <class KindType>
 class ListDecoding : public ::testing::Test {
 protected:
   using Log = typename KindType::Log;
@@ -70,7 +70,7 @@ TYPED_TEST(ListDecoding, Entries) {
       {"<Entry><Entry><UniqueId>1</UniqueId></Entry><UniqueId>2</UniqueId></Entry>", "[1]"},
       {"<Entry><Entry></Entry><UniqueId>2</UniqueId></Entry>", "[]"},
       {"<Entry>a<Entry>b</Entry><Entry><UniqueId>2</UniqueId></Entry>", "[][2]"},
-      // What stands around the entries is passed over.
+      // What surrounds the entries is ignored.
       {"<UniqueId>0</UniqueId><Entry>x</Entry><UniqueId>1</UniqueId>\n"
        "<Entry><UniqueId>2</UniqueId></Entry></Entry><UniqueId>3</UniqueId>",
        "[][2]"},
@@ -135,51 +135,18 @@ TYPED_TEST(ListDecoding, Handles) {
       {"<Handle>42</Handle><Handle>43</Handle>", 42},
       {"<Handle></Handle><Handle>43</Handle>", 0},
       {"<Handle><Handle>42</Handle>", 0},
-      {"<Handle>0</Handle>", 0},
-      {"<Handle>007</Handle>", 7},
+      // Read as every number of a message.
       {"<Handle>abc</Handle>", 0},
-      {"<Handle>42abc</Handle>", 42},
-      {"<Handle>4 2</Handle>", 4},
-      {"<Handle>4.2</Handle>", 4},
-      {"<Handle>0x10</Handle>", 0},
-      {"<Handle>1e3</Handle>", 1},
-      {"<Handle> \t\n\v\f\r42</Handle>", 42},
-      {"<Handle>\b42</Handle>", 0},
-      {"<Handle>\xC2\xA0"
-       "42</Handle>",
-       0},
-      {"<Handle>+42</Handle>", 42},
-      {"<Handle> +42</Handle>", 42},
-      {"<Handle>+-42</Handle>", 0},
-      {"<Handle>-+42</Handle>", 0},
-      {"<Handle>--42</Handle>", 0},
-      {"<Handle>+ 42</Handle>", 0},
-      {"<Handle>-</Handle>", 0},
-      {"<Handle>-0</Handle>", 0},
-      {"<Handle>-1</Handle>", 4294967295U},
+      {"<Handle> \t\n\v\f\r+42abc</Handle>", 42},
       {"<Handle>-42</Handle>", 4294967254U},
-      {"<Handle>-2147483647</Handle>", 2147483649U},
-      {"<Handle>-2147483648</Handle>", 2147483648U},
-      {"<Handle>2147483646</Handle>", 2147483646U},
       {"<Handle>2147483647</Handle>", 2147483647U},
-      // Larger numbers count as the largest signed one, smaller ones as the smallest.
       {"<Handle>2147483648</Handle>", 2147483647U},
-      {"<Handle>2147483650</Handle>", 2147483647U},
-      {"<Handle>4294967295</Handle>", 2147483647U},
-      {"<Handle>4294967297</Handle>", 2147483647U},
-      {"<Handle>21474836470</Handle>", 2147483647U},
-      {"<Handle>18446744073709551617</Handle>", 2147483647U},
       {"<Handle>99999999999999999999999999999999999999</Handle>", 2147483647U},
-      {"<Handle>00000000000000000000000000000000000042</Handle>", 42},
+      {"<Handle>-2147483648</Handle>", 2147483648U},
       {"<Handle>-2147483649</Handle>", 2147483648U},
-      {"<Handle>-4294967295</Handle>", 2147483648U},
-      {"<Handle>-99999999999999999999999999999999999999</Handle>", 2147483648U},
-      // The text is unescaped first, which never yields a digit or a sign.
       {"<Handle>4&lt;2</Handle>", 4},
-      {"<Handle>&apos;42</Handle>", 0},
-      {"<Handle>&#52;2</Handle>", 0},
       {"<Handle>&lt;Handle&gt;</Handle>", 0},
-      // Before, between, behind and inside the entries.
+      // Before, between, after and inside the entries.
       {"<Handle>42</Handle><Entry>x</Entry>", 42},
       {"<Entry>x</Entry><Handle>42</Handle><Entry>x</Entry>", 42},
       {"<Entry>x</Entry><Handle>42</Handle>", 42},
@@ -232,8 +199,8 @@ TYPED_TEST(ListDecoding, AResponseComesBack) {
   EXPECT_EQ(handle, TypeParam::HANDLE);
 }
 
-// An entry is read to its end, behind its list too.
-TYPED_TEST(ListDecoding, ElementsBehindTheList) {
+// An entry is read to its end, past its list too.
+TYPED_TEST(ListDecoding, ElementsAfterTheList) {
   std::string const list = "<LogList><Item><Number>1</Number></Item></LogList>";
   typename TypeParam::Log items;
   TypeParam::readLog("<Entry>" + list +

@@ -1,57 +1,116 @@
-// The order in which the decoders read, and where that order shows: texts whose elements stand in
-// the wrong order, stand twice, or hold one another.
+// The order in which the decoders read, and where that order shows: texts whose elements are in the
+// wrong order, occur twice, or hold one another. The reference says what each text gives.
+#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
-#include "records/CursorModel.h"
-
-using namespace cursor_model;
+#include "differential/Comparison.h"
+#include "differential/Edits.h"
+#include "records/MemberValues.h"
+#include "records/TestedKinds.h"
+#include "reference/Reference.h"
 
 namespace {
 
-template <typename KindType>
+using kinds::tagged;
+
+// Elements in full, each with a value that differs from what a missing element gives.
+using Elements = std::vector<std::string>;
+
+std::string nameOf(std::string const& element) {
+  return element.substr(1, element.find('>') - 1);
+}
+
+// Those elements of a text that hold no other.
+Elements leavesOf(std::string const& text) {
+  Elements leaves;
+  for (auto const& element : differential::elementsOf(text))
+    if (element.find("</", 1) != std::string::npos)
+      leaves.push_back(element);
+  return leaves;
+}
+
+Elements without(Elements elements, std::size_t missing) {
+  elements.erase(elements.begin() + static_cast<std::ptrdiff_t>(missing));
+  return elements;
+}
+
+Elements frontOf(Elements elements, std::size_t size) {
+  elements.resize(size);
+  return elements;
+}
+
+std::string joined(Elements const& elements, std::string const& between = "") {
+  std::string text;
+  for (auto const& element : elements)
+    text += element + between;
+  return text;
+}
+
+// A dialled call as its reader takes it: the priority in front of the connected number, and the
+// name's presentation between two begin tags.
+Elements inReadingOrder(Elements elements) {
+  auto const number = std::find_if(elements.begin(), elements.end(), [](auto const& element) {
+    return nameOf(element) == "ConnectedNumber";
+  });
+  std::iter_swap(number, number + 1);
+  for (auto& element : elements)
+    if (nameOf(element) == "NamePresentation")
+      element.erase(element.find("</") + 1, 1);
+  return elements;
+}
+
+template <class KindType>
 class ReadingOrder : public ::testing::Test {
 protected:
   using Item = typename KindType::Item;
   using Info = typename KindType::Info;
+  using Oracle = comparison::KindOperations<Item, Reference>;
 
-  // Every field is set before, so that one that is not overwritten shows.
-  static void expectCall(std::string const& text) {
-    Info call = KindType::full().callInfoList.front();
-    auto const expected = merged(record_fields::of(call), read(text, callOrder(KindType())).values);
-    EXPECT_TRUE(KindType::readCall(text.c_str(), call)) << text;
-    EXPECT_EQ(record_fields::of(call), expected) << text;
+  // The elements of a call in the order of writing and, where that is another, of reading.
+  static std::vector<Elements> callOrders() {
+    Item item;
+    item.callInfoList.push_back(records::otherRecord<Info>());
+    std::string text;
+    Oracle::writeCalls(item, text);
+    auto const written = leavesOf(text);
+    if (std::is_same_v<KindType, kinds::Dialled>)
+      return {written, inReadingOrder(written)};
+    return {written};
   }
 
-  // The LogList is searched from where the walk over the entry's own elements ended.
-  static void expectEntry(std::string const& text) {
-    Item item = KindType::full();
-    Reading const reading = read(text, entryOrder(KindType()));
-    auto const expected = merged(record_fields::of(item), reading.values);
-    bool const listed = text.find("<LogList>", reading.cursor) != std::string::npos;
-    EXPECT_TRUE(KindType::readItem(text.c_str(), item)) << text;
-    EXPECT_EQ(record_fields::of(item), expected) << text;
-    EXPECT_EQ(item.callInfoList.size(), listed ? 1U : 2U) << text;
+  static Elements entryElements() {
+    std::string text;
+    Oracle::writeBody(records::otherRecord<Item>(), text, false);
+    return leavesOf(text);
   }
+
+  // Every member is set before, so that one that is not overwritten shows.
+  static void expectCall(std::string const& text) { expectAsReference(text, Level::call); }
+  static void expectEntry(std::string const& text) { expectAsReference(text, Level::item); }
 
   // Lists of one call, in the writer's order and not.
-  static std::vector<std::string> lists() {
+  static Elements lists() {
     return {"<LogList><Item>x</Item></LogList>",
-            "<LogList><Item>" + joined(callOrder(KindType())) + "</Item></LogList>",
+            "<LogList><Item>" + joined(callOrders().back()) + "</Item></LogList>",
             "<LogList><Item><Number>1</Number></Item></LogList>"};
   }
 
-  static std::string joined(Order const& order, std::string const& between = "") {
-    std::string text;
-    for (Element const& element : order)
-      text += sample(element) + between;
-    return text;
+private:
+  using Level = comparison::Level;
+
+  static void expectAsReference(std::string const& text, Level level) {
+    auto const kind = KindType::KIND_OF_LOG;
+    EXPECT_EQ("", comparison::compareDecoder(text, kind, level, comparison::Outputs::filled));
   }
 };
 
 TYPED_TEST_SUITE(ReadingOrder, kinds::All, kinds::KindNames);
 
 TYPED_TEST(ReadingOrder, ACallInOrder) {
-  this->expectCall(this->joined(callOrder(TypeParam())));
+  for (auto const& order : this->callOrders())
+    this->expectCall(joined(order));
 }
 
 TYPED_TEST(ReadingOrder, AnEmptyTextSetsEveryFieldToItsFallback) {
@@ -59,143 +118,130 @@ TYPED_TEST(ReadingOrder, AnEmptyTextSetsEveryFieldToItsFallback) {
   this->expectEntry("");
 }
 
-TYPED_TEST(ReadingOrder, EachElementOfACallAlone) {
-  for (Element const& element : callOrder(TypeParam()))
-    this->expectCall(sample(element));
-}
-
-TYPED_TEST(ReadingOrder, EachElementOfACallMissing) {
-  Order const order = callOrder(TypeParam());
-  for (std::size_t missing = 0; missing < order.size(); ++missing) {
-    Order rest = order;
-    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
-    this->expectCall(this->joined(rest));
-  }
+TYPED_TEST(ReadingOrder, EachElementOfACallAloneOrMissing) {
+  for (auto const& order : this->callOrders())
+    for (std::size_t at = 0; at < order.size(); ++at) {
+      this->expectCall(order[at]);
+      this->expectCall(joined(without(order, at)));
+    }
 }
 
 TYPED_TEST(ReadingOrder, ElementsOfACallApart) {
-  for (char const* between : {"\n", " ", "\r\n\t", "text", "<Other>", "<Other>x</Other>"}) {
-    this->expectCall(this->joined(callOrder(TypeParam()), between));
-    this->expectCall(between + this->joined(callOrder(TypeParam())));
-  }
+  for (auto const& order : this->callOrders())
+    for (char const* between : {"\n", " ", "\r\n\t", "text", "<Other>", "<Other>x</Other>"}) {
+      this->expectCall(joined(order, between));
+      this->expectCall(between + joined(order));
+    }
 }
 
 TYPED_TEST(ReadingOrder, AdjacentElementsOfACallSwapped) {
-  Order const order = callOrder(TypeParam());
-  for (std::size_t at = 0; at + 1 < order.size(); ++at) {
-    Order swapped = order;
-    std::swap(swapped[at], swapped[at + 1]);
-    this->expectCall(this->joined(swapped));
-  }
+  for (auto const& order : this->callOrders())
+    for (std::size_t at = 0; at + 1 < order.size(); ++at) {
+      auto swapped = order;
+      std::swap(swapped[at], swapped[at + 1]);
+      this->expectCall(joined(swapped));
+    }
 }
 
 TYPED_TEST(ReadingOrder, ACallBackToFront) {
-  Order const order = callOrder(TypeParam());
-  this->expectCall(this->joined(Order(order.rbegin(), order.rend())));
+  for (auto const& order : this->callOrders())
+    this->expectCall(joined({order.rbegin(), order.rend()}));
 }
 
 TYPED_TEST(ReadingOrder, TheFirstOfTwoEqualElementsCounts) {
-  for (Element const& element : callOrder(TypeParam())) {
-    this->expectCall(sample(element) + tagged(element.name, "later"));
-    this->expectCall(" " + tagged(element.name, "") + sample(element));
-  }
+  for (auto const& order : this->callOrders())
+    for (auto const& element : order) {
+      this->expectCall(element + tagged(nameOf(element), "later"));
+      this->expectCall(" " + tagged(nameOf(element), "") + element);
+    }
 }
 
-// Which of two elements is read first shows when one stands inside the other.
+// Which of two elements is read first shows when one is inside the other.
 TYPED_TEST(ReadingOrder, OneElementOfACallInsideAnother) {
-  Order const order = callOrder(TypeParam());
-  for (Element const& outer : order) {
-    for (Element const& inner : order) {
-      std::string const text = tagged(outer.name, sample(inner));
-      this->expectCall(text);
-      this->expectCall("\n" + text);
-    }
-  }
+  for (auto const& order : this->callOrders())
+    for (auto const& outer : order)
+      for (auto const& inner : order) {
+        auto const text = tagged(nameOf(outer), inner);
+        this->expectCall(text);
+        this->expectCall("\n" + text);
+      }
 }
 
 // A cursor that fell behind, or ran ahead, on the way through the elements in front finds the inner
 // element when it must not, or the other way round.
 TYPED_TEST(ReadingOrder, OneElementOfACallInsideAnotherBehindTheElementsInFront) {
-  Order const order = callOrder(TypeParam());
-  for (std::size_t outer = 1; outer < order.size(); ++outer) {
-    Order const front(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(outer));
-    for (std::size_t inner = 0; inner < order.size(); ++inner) {
-      std::string const nested = tagged(order[outer].name, sample(order[inner]));
-      this->expectCall(this->joined(front) + nested);
-      this->expectCall(this->joined(front, " ") + nested);
-      for (std::size_t missing = 0; missing < front.size(); ++missing) {
-        Order rest = front;
-        rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
-        this->expectCall(this->joined(rest) + nested);
+  for (auto const& order : this->callOrders())
+    for (std::size_t outer = 1; outer < order.size(); ++outer) {
+      auto const front = frontOf(order, outer);
+      for (auto const& inner : order) {
+        auto const nested = tagged(nameOf(order[outer]), inner);
+        this->expectCall(joined(front) + nested);
+        this->expectCall(joined(front, " ") + nested);
+        for (std::size_t missing = 0; missing < front.size(); ++missing)
+          this->expectCall(joined(without(front, missing)) + nested);
       }
     }
-  }
 }
 
 // An element without its close tag is missing, and the cursor stays in front of it.
 TYPED_TEST(ReadingOrder, AnElementOfACallWithoutCloseTag) {
-  Order const order = callOrder(TypeParam());
-  for (std::size_t open = 0; open < order.size(); ++open) {
-    std::string text;
-    for (std::size_t at = 0; at < order.size(); ++at)
-      text += at == open ? "<" + order[at].name + ">open" : sample(order[at]);
-    this->expectCall(text);
-  }
+  for (auto const& order : this->callOrders())
+    for (std::size_t open = 0; open < order.size(); ++open) {
+      auto elements = order;
+      elements[open] = "<" + nameOf(order[open]) + ">open";
+      this->expectCall(joined(elements));
+    }
 }
 
 TYPED_TEST(ReadingOrder, EachElementOfAnEntryAlone) {
-  for (Element const& element : entryOrder(TypeParam()))
-    this->expectEntry(sample(element));
+  for (auto const& element : this->entryElements())
+    this->expectEntry(element);
 }
 
-// The element may also stand behind the list, which ends a text in the writer's order.
+// The element may also follow the list, which ends a text in the writer's order.
 TYPED_TEST(ReadingOrder, EachElementOfAnEntryMissing) {
-  Order const order = entryOrder(TypeParam());
-  for (std::string const& list : this->lists()) {
-    this->expectEntry(this->joined(order) + list);
-    this->expectEntry(list + this->joined(order));
-    this->expectEntry(this->joined(order) + list + this->joined(order));
+  auto const order = this->entryElements();
+  for (auto const& list : this->lists()) {
+    this->expectEntry(joined(order) + list);
+    this->expectEntry(list + joined(order));
+    this->expectEntry(joined(order) + list + joined(order));
     for (std::size_t missing = 0; missing < order.size(); ++missing) {
-      Order rest = order;
-      rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
-      this->expectEntry(this->joined(rest) + list);
-      this->expectEntry(this->joined(rest, "\n") + list);
-      this->expectEntry(this->joined(rest) + list + sample(order[missing]));
+      auto const rest = without(order, missing);
+      this->expectEntry(joined(rest) + list);
+      this->expectEntry(joined(rest, "\n") + list);
+      this->expectEntry(joined(rest) + list + order[missing]);
     }
   }
 }
 
 TYPED_TEST(ReadingOrder, AdjacentElementsOfAnEntrySwapped) {
-  Order const order = entryOrder(TypeParam());
-  for (std::string const& list : this->lists()) {
+  auto const order = this->entryElements();
+  for (auto const& list : this->lists())
     for (std::size_t at = 0; at + 1 < order.size(); ++at) {
-      Order swapped = order;
+      auto swapped = order;
       std::swap(swapped[at], swapped[at + 1]);
-      this->expectEntry(this->joined(swapped) + list);
+      this->expectEntry(joined(swapped) + list);
     }
-  }
 }
 
 TYPED_TEST(ReadingOrder, OneElementOfAnEntryInsideAnother) {
-  Order const order = entryOrder(TypeParam());
-  for (std::string const& list : this->lists()) {
-    for (std::size_t outer = 0; outer < order.size(); ++outer) {
-      Order const front(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(outer));
-      for (std::string const& before : {std::string(), this->joined(front), std::string(" ")}) {
-        this->expectEntry(before + tagged(order[outer].name, list));
-        for (Element const& inner : order) {
-          this->expectEntry(before + tagged(order[outer].name, sample(inner)));
-          this->expectEntry(before + tagged(order[outer].name, sample(inner)) + list);
+  auto const order = this->entryElements();
+  for (auto const& list : this->lists())
+    for (std::size_t outer = 0; outer < order.size(); ++outer)
+      for (auto const& before : {std::string(), joined(frontOf(order, outer)), std::string(" ")}) {
+        auto const name = nameOf(order[outer]);
+        this->expectEntry(before + tagged(name, list));
+        for (auto const& inner : order) {
+          this->expectEntry(before + tagged(name, inner));
+          this->expectEntry(before + tagged(name, inner) + list);
         }
       }
-    }
-  }
 }
 
 // The entry's own elements are searched in its whole text, the LogList included.
 TYPED_TEST(ReadingOrder, EntryElementsInsideTheList) {
-  for (Element const& element : entryOrder(TypeParam()))
-    this->expectEntry("<LogList><Item>" + sample(element) + "</Item></LogList>");
+  for (auto const& element : this->entryElements())
+    this->expectEntry("<LogList><Item>" + element + "</Item></LogList>");
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // A second, plain implementation of every operation, against which the library is tested.
 //
-// It has every word of the messages, the escaping and the number texts to itself: it takes nothing
-// but types from the public headers, so that it shares no mistake with the library. It is meant to
-// be obviously right, not fast: readers copy the text that they may see and search it anew.
+// It spells every word of the messages itself, and has its own escaping and number texts: it uses
+// only types from the public headers, so that it shares no mistake with the library. It is meant to
+// be obviously right, not fast: readers copy the text that they may see and search it each time.
 #ifndef TESTS_REFERENCE_REFERENCE_H
 #define TESTS_REFERENCE_REFERENCE_H
 

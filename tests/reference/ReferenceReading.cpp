@@ -6,7 +6,7 @@
 
 namespace {
 
-// The readers of one element: each moves the cursor as getXMLValue tells.
+// The readers of one element. Each moves the cursor to where getXMLValue returns.
 
 void read(char const*& cursor, std::string const& name, std::string& field) {
   cursor = Reference::getXMLValue(cursor, "<" + name + ">", "</" + name + ">", field);
@@ -41,8 +41,8 @@ void read(char const*& cursor, std::string const& name, CallLogEntryEvent::_TFor
   field = Reference::convertTimeFormat(word);
 }
 
-// What stands between each begin tag and the next close tag, the empty ones left out. A piece that
-// is not closed ends the search.
+// The texts between each begin tag and the next close tag, without empty ones. A piece that is not
+// closed ends the search.
 std::vector<std::string> pieces(std::string const& text, std::string const& begin,
                                 std::string const& close) {
   std::vector<std::string> found;
@@ -80,6 +80,29 @@ std::vector<std::string> entriesOf(std::string const& xml) {
   return pieces(Reference::untilNul(xml.c_str()), "<Entry>", "</Entry>");
 }
 
+template <class Info>
+bool readCalls(char const* xml, std::list<Info>& list, bool (*readCall)(char const*, Info&)) {
+  list.clear();
+  for (std::string const& text : itemsOf(xml)) {
+    Info info;
+    readCall(text.c_str(), info);
+    list.push_back(info);
+  }
+  return !list.empty();
+}
+
+template <class Item>
+bool readLog(std::string const& xml, std::deque<Item>& items,
+             bool (*readItem)(std::string const&, Item&)) {
+  items.clear();
+  for (std::string const& text : entriesOf(xml)) {
+    Item item;
+    readItem(text, item);
+    items.push_back(item);
+  }
+  return true;
+}
+
 unsigned int handleOf(std::string const& xml) {
   std::string digits;
   Reference::getXMLValue(xml.c_str(), "<Handle>", "</Handle>", digits);
@@ -112,8 +135,8 @@ bool Reference::getXMLMissedCallInfo(char const* xml, MissedCallItem::MissedCall
   return true;
 }
 
-// The priority is read in front of the connected number, behind which it is written. The name
-// presentation has its begin tag for a close tag too.
+// The priority is written after the connected number, but read before it. The close tag of the name
+// presentation is its begin tag.
 bool Reference::getXMLDialledCallInfo(char const* xml, DialledCallItem::DialledCallInfo& info) {
   char const* cursor = xml;
   read(cursor, "Number", info.number);
@@ -180,46 +203,22 @@ bool Reference::getXMLForwardedCallInfo(char const* xml,
 
 bool Reference::getXMLMissedCallInfoList(char const* xml,
                                          std::list<MissedCallItem::MissedCallInfo>& list) {
-  list.clear();
-  for (std::string const& text : itemsOf(xml)) {
-    MissedCallItem::MissedCallInfo info;
-    getXMLMissedCallInfo(text.c_str(), info);
-    list.push_back(info);
-  }
-  return !list.empty();
+  return readCalls(xml, list, &getXMLMissedCallInfo);
 }
 
 bool Reference::getXMLDialledCallInfoList(char const* xml,
                                           std::list<DialledCallItem::DialledCallInfo>& list) {
-  list.clear();
-  for (std::string const& text : itemsOf(xml)) {
-    DialledCallItem::DialledCallInfo info;
-    getXMLDialledCallInfo(text.c_str(), info);
-    list.push_back(info);
-  }
-  return !list.empty();
+  return readCalls(xml, list, &getXMLDialledCallInfo);
 }
 
 bool Reference::getXMLReceivedCallInfoList(char const* xml,
                                            std::list<ReceivedCallItem::ReceivedCallInfo>& list) {
-  list.clear();
-  for (std::string const& text : itemsOf(xml)) {
-    ReceivedCallItem::ReceivedCallInfo info;
-    getXMLReceivedCallInfo(text.c_str(), info);
-    list.push_back(info);
-  }
-  return !list.empty();
+  return readCalls(xml, list, &getXMLReceivedCallInfo);
 }
 
 bool Reference::getXMLForwardedCallInfoList(char const* xml,
                                             std::list<ForwardedCallItem::ForwardedCallInfo>& list) {
-  list.clear();
-  for (std::string const& text : itemsOf(xml)) {
-    ForwardedCallItem::ForwardedCallInfo info;
-    getXMLForwardedCallInfo(text.c_str(), info);
-    list.push_back(info);
-  }
-  return !list.empty();
+  return readCalls(xml, list, &getXMLForwardedCallInfo);
 }
 
 // ------------------------------------------------------------------------------------------------
@@ -307,74 +306,46 @@ bool Reference::parseXMLGetLastDialledNumber(std::string const& xml, DialledCall
 // A whole log
 
 bool Reference::parseXMLMissedCallList(std::string const& xml, std::deque<MissedCallItem>& items) {
-  items.clear();
-  for (std::string const& text : entriesOf(xml)) {
-    MissedCallItem item;
-    parseXMLMissedCallItem(text, item);
-    items.push_back(item);
-  }
-  return true;
+  return readLog(xml, items, &parseXMLMissedCallItem);
 }
 
 bool Reference::parseXMLDialledCallList(std::string const& xml,
                                         std::deque<DialledCallItem>& items) {
-  items.clear();
-  for (std::string const& text : entriesOf(xml)) {
-    DialledCallItem item;
-    parseXMLDialledCallItem(text, item);
-    items.push_back(item);
-  }
-  return true;
+  return readLog(xml, items, &parseXMLDialledCallItem);
 }
 
 bool Reference::parseXMLReceivedCallList(std::string const& xml,
                                          std::deque<ReceivedCallItem>& items) {
-  items.clear();
-  for (std::string const& text : entriesOf(xml)) {
-    ReceivedCallItem item;
-    parseXMLReceivedCallItem(text, item);
-    items.push_back(item);
-  }
-  return true;
+  return readLog(xml, items, &parseXMLReceivedCallItem);
 }
 
 bool Reference::parseXMLForwardedCallList(std::string const& xml,
                                           std::deque<ForwardedCallItem>& items) {
-  items.clear();
-  for (std::string const& text : entriesOf(xml)) {
-    ForwardedCallItem item;
-    parseXMLForwardedCallItem(text, item);
-    items.push_back(item);
-  }
-  return true;
+  return readLog(xml, items, &parseXMLForwardedCallItem);
 }
 
 bool Reference::parseXMLMissedCallList(std::string const& xml, std::deque<MissedCallItem>& items,
                                        unsigned int& handle) {
-  parseXMLMissedCallList(xml, items);
   handle = handleOf(xml);
-  return true;
+  return parseXMLMissedCallList(xml, items);
 }
 
 bool Reference::parseXMLDialledCallList(std::string const& xml, std::deque<DialledCallItem>& items,
                                         unsigned int& handle) {
-  parseXMLDialledCallList(xml, items);
   handle = handleOf(xml);
-  return true;
+  return parseXMLDialledCallList(xml, items);
 }
 
 bool Reference::parseXMLReceivedCallList(std::string const& xml,
                                          std::deque<ReceivedCallItem>& items,
                                          unsigned int& handle) {
-  parseXMLReceivedCallList(xml, items);
   handle = handleOf(xml);
-  return true;
+  return parseXMLReceivedCallList(xml, items);
 }
 
 bool Reference::parseXMLForwardedCallList(std::string const& xml,
                                           std::deque<ForwardedCallItem>& items,
                                           unsigned int& handle) {
-  parseXMLForwardedCallList(xml, items);
   handle = handleOf(xml);
-  return true;
+  return parseXMLForwardedCallList(xml, items);
 }

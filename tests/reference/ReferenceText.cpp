@@ -150,7 +150,7 @@ namespace {
 
 struct Found {
   bool found;
-  std::string raw;    // what stands between the tags; empty when one is missing
+  std::string raw;    // the text between the tags; empty when one is missing
   char const* cursor; // where the next search is to start
 };
 

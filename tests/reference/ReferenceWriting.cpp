@@ -198,50 +198,39 @@ std::string handleElement(unsigned int handle) {
   return "<Handle>" + Reference::itos(static_cast<std::int32_t>(handle)) + "</Handle>";
 }
 
+template <class Item>
+std::string response(std::string const& methodTag, std::deque<Item> const& items,
+                     unsigned int handle,
+                     void (*writeBody)(Item const&, std::string&, bool uniqueIdOnly)) {
+  std::string message = "<Method>" + methodTag + "</Method>";
+  for (Item const& item : items) {
+    message += "<Entry>";
+    writeBody(item, message, false);
+    message += "</Entry>";
+  }
+  return message + handleElement(handle);
+}
+
 } // namespace
 
 std::string Reference::respGetMissedCallList(std::deque<MissedCallItem> const& items,
                                              unsigned int handle) {
-  std::string message = "<Method><getMissedCallList></Method>";
-  for (MissedCallItem const& item : items) {
-    message += "<Entry>";
-    createXMLMissedCallItemBody(item, message, false);
-    message += "</Entry>";
-  }
-  return message + handleElement(handle);
+  return response("<getMissedCallList>", items, handle, &createXMLMissedCallItemBody);
 }
 
 std::string Reference::respGetDialledCallList(std::deque<DialledCallItem> const& items,
                                               unsigned int handle) {
-  std::string message = "<Method><getDialledCallList></Method>";
-  for (DialledCallItem const& item : items) {
-    message += "<Entry>";
-    createXMLDialledCallItemBody(item, message, false);
-    message += "</Entry>";
-  }
-  return message + handleElement(handle);
+  return response("<getDialledCallList>", items, handle, &createXMLDialledCallItemBody);
 }
 
 std::string Reference::respGetReceivedCallList(std::deque<ReceivedCallItem> const& items,
                                                unsigned int handle) {
-  std::string message = "<Method><getReceivedCallList></Method>";
-  for (ReceivedCallItem const& item : items) {
-    message += "<Entry>";
-    createXMLReceivedCallItemBody(item, message, false);
-    message += "</Entry>";
-  }
-  return message + handleElement(handle);
+  return response("<getReceivedCallList>", items, handle, &createXMLReceivedCallItemBody);
 }
 
 std::string Reference::respGetForwardedCallList(std::deque<ForwardedCallItem> const& items,
                                                 unsigned int handle) {
-  std::string message = "<Method><getForwardedCallList></Method>";
-  for (ForwardedCallItem const& item : items) {
-    message += "<Entry>";
-    createXMLForwardedCallItemBody(item, message, false);
-    message += "</Entry>";
-  }
-  return message + handleElement(handle);
+  return response("<getForwardedCallList>", items, handle, &createXMLForwardedCallItemBody);
 }
 
 // ------------------------------------------------------------------------------------------------

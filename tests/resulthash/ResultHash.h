@@ -8,12 +8,13 @@
 #include <string>
 #include <type_traits>
 
-#include "differential/RecordFields.h"
+#include "members/Members.h"
 
 namespace operations {
 
-/// Takes numbers as 32 bits, the lowest byte first, and texts and lists with their length in front,
-/// so that neither word size nor byte order shows, nor where one value ends and the next begins.
+/// Takes numbers as 32 bits, the lowest byte first, so that it depends neither on word size nor on
+/// byte order; and texts and lists with their length in front, so that no two sequences of values
+/// are fed alike.
 class ResultHash {
 public:
   std::uint64_t value() const { return value_; }
@@ -49,8 +50,8 @@ public:
 
   template <class Record>
   std::enable_if_t<std::is_class_v<Record>> feed(Record const& record) {
-    comparison::forEachField(record, [this](auto const& field) { this->feed(field); });
-    if constexpr (comparison::HasCalls<Record>::value)
+    members::forEachValue(record, [this](auto const& value) { this->feed(value); });
+    if constexpr (members::isEntry<Record>)
       feed(record.callInfoList);
   }
 

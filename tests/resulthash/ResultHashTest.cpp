@@ -1,129 +1,107 @@
-// One hash of all outputs of all operations over a fixed set of inputs: the same on every
-// machine, whatever its word size and byte order, and the same as the reference's.
-#include <cstddef>
+// One hash over the results of all operations that work on no records, for a fixed set of inputs:
+// the same on every machine, whatever its word size and byte order.
+//
+// The operations on records are made of these. Each machine compares them with the reference, which
+// is made of its own such operations; and each reads and writes the golden messages.
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "operations/Inputs.h"
-#include "reference/Reference.h"
 
 namespace {
 
 using operations::Input;
-using operations::Operation;
 using operations::Outputs;
 using operations::Random;
 using operations::ResultHash;
 
-// A change of this value is a change of behaviour: the reference has to have changed with the
-// library, and both on purpose.
-constexpr std::uint64_t EXPECTED = 0xd472dd4ea9b8106eU;
+// A change of this value is a change of behaviour, and has to be one on purpose.
+constexpr std::uint64_t EXPECTED = 0x199cfede0c42f889U;
 
-constexpr int ROUNDS = 160;          // of new records, and all messages that are made of them
-constexpr int TEXTS_PER_MESSAGE = 8; // the message itself, and damaged ones
-constexpr int LEAST_TEXTS = 5000;
+constexpr int ROUNDS = 5000;
 
-void run(Operation const& operation, Input const& input, bool filled, ResultHash& hash) {
-  Outputs outputs(input);
-  if (filled)
-    outputs.fill(input);
-  operation.run(input, outputs);
-  operation.feed(outputs, hash);
+// The inputs are made of fixed pieces, so that the hash does not change with every new element.
+std::string const names[] = {"Method", "Entry",      "UniqueId",       "EntryId", "Number", "Value",
+                             "Handle", "NumberType", "CallLogEnabled", "Viewed",  ""};
+std::string const others[] = {"<subscribe>",
+                              "<deleteMissedCallList>",
+                              "<missedCallsUpdate>",
+                              "<getDialledCallList>",
+                              "True",
+                              "true",
+                              "Failure",
+                              "Success",
+                              "MOBILE",
+                              "BUSINESS2",
+                              "IN_GROUP_MISSED",
+                              "NOT_ALLOWED",
+                              "FORM_PM",
+                              "-1",
+                              " +12x",
+                              "2147483648",
+                              "99999999999",
+                              "-4294967296",
+                              "&amp;lt;",
+                              "&#38;",
+                              "&",
+                              "<\"'>",
+                              "\xff",
+                              std::string("a\0b", 3),
+                              "李 😀",
+                              "</Ent",
+                              "<Schema name=\"x\">",
+                              " "};
+
+std::string fixedText(Random& random) {
+  std::string text;
+  for (auto pieces = random.below(10); pieces > 0; --pieces) {
+    auto const& name = random.oneOf(names);
+    switch (random.below(4)) {
+    case 0:
+      text += "<" + name + ">";
+      break;
+    case 1:
+      text += "</" + name + ">";
+      break;
+    case 2:
+      text += "<" + name + ">" + random.oneOf(others) + "</" + name + ">";
+      break;
+    default:
+      text += random.oneOf(others);
+    }
+  }
+  return text;
 }
 
-// The three messages of a kind's records, made by the reference so that both sides read the same.
-std::vector<std::string> messagesOf(int kind, std::vector<Operation> const& reference,
-                                    Input const& input) {
-  std::vector<std::string> messages;
-  for (auto const& operation : reference) {
-    if (operation.kind != kind || !operation.writesRecords)
-      continue;
-    Outputs outputs(input);
-    outputs.edited.clear();
-    outputs.text.clear();
-    operation.run(input, outputs);
-    messages.push_back(outputs.resultText.empty() ? outputs.text : outputs.resultText);
-  }
-  return messages;
-}
-
-struct Hashes {
-  std::uint64_t library;
-  std::uint64_t reference;
-  int texts;
-};
-
-// Feeds both sides' outputs, each to its own hash.
-class Hasher {
-public:
-  Hashes hashes() const { return {library_.hash.value(), reference_.hash.value(), texts_}; }
-
-  void writeEverything(Input const& input) {
-    for (auto* const side : {&library_, &reference_})
-      for (auto const& operation : side->operations)
-        if (!operation.readsText)
-          run(operation, input, false, side->hash);
-  }
-
-  // What concerns another kind of log reads only some of the texts.
-  void readEverything(Input const& input, int kind) {
-    auto const otherKind = texts_ % 16;
-    for (auto* const side : {&library_, &reference_})
-      for (auto const& operation : side->operations)
-        if (operation.readsText && (operation.kind == operations::NO_KIND ||
-                                    operation.kind == kind || operation.kind == otherKind))
-          run(operation, input, texts_ % 2 == 1, side->hash);
-    ++texts_;
-  }
-
-  std::vector<std::string> messagesOf(int kind, Input const& input) const {
-    return ::messagesOf(kind, reference_.operations, input);
-  }
-
-private:
-  struct Side {
-    std::vector<Operation> operations;
-    ResultHash hash;
-  };
-  Side library_{operations::all<JournalServiceHelper>(), {}};
-  Side reference_{operations::all<Reference>(), {}};
-  int texts_ = 0;
-};
-
-Hashes hashEverything() {
-  Hasher hasher;
-  Random random(20070514);
+Input someInput(Random& random) {
   Input input;
-  for (int round = 0; round < ROUNDS; ++round) {
-    operations::fillRecords(input, random);
-    input.text = operations::someText(random);
-    operations::chooseElement(input, random);
-    hasher.writeEverything(input);
+  input.text = fixedText(random);
+  input.name = random.below(4) == 0 ? random.oneOf(others) : random.oneOf(names);
+  input.begin = "<" + input.name + ">";
+  input.close = "</" + input.name + ">";
+  for (auto ids = random.below(4); ids > 0; --ids)
+    input.ids.insert(random.oneOf(others));
+  input.number = random.oneOf(operations::numbers);
+  input.flag = random.below(2) == 1;
+  return input;
+}
 
-    int const kind = round % 4;
-    for (auto const& message : hasher.messagesOf(kind, input))
-      for (int text = 0; text < TEXTS_PER_MESSAGE; ++text) {
-        auto const edits = text == 0 ? 0 : 1 + random.below(3);
-        input.text = operations::damaged(message, edits, random);
-        operations::chooseElement(input, random);
-        hasher.readEverything(input, kind);
+TEST(ResultHash, OfResultsIsTheSameOnEveryMachine) {
+  ResultHash hash;
+  Random random(20070514);
+  auto const all = operations::all();
+  for (int round = 0; round < ROUNDS; ++round) {
+    auto const input = someInput(random);
+    for (auto const& operation : all)
+      if (operation.kind == operations::NO_KIND) {
+        Outputs outputs(input);
+        operation.run(input, outputs);
+        operation.feed(outputs, hash);
       }
   }
-  return hasher.hashes();
-}
-
-TEST(ResultHash, OfAllOutputsIsTheSameEverywhere) {
-  auto const hashes = hashEverything();
-  EXPECT_GE(hashes.texts, LEAST_TEXTS);
-  EXPECT_EQ(hashes.library, EXPECTED) << std::hex << "library: 0x" << hashes.library;
-  EXPECT_EQ(hashes.reference, EXPECTED) << std::hex << "reference: 0x" << hashes.reference;
-}
-
-TEST(ResultHash, CoversEveryOperation) {
-  EXPECT_EQ(operations::all<JournalServiceHelper>().size(), operations::COUNT);
+  EXPECT_EQ(hash.value(), EXPECTED) << std::hex << "0x" << hash.value();
 }
 
 template <class Value>

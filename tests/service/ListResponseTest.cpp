@@ -1,43 +1,23 @@
 // The answers to list requests.
-#include <vector>
+#include <string>
 
 #include "records/TestedKinds.h"
 
 namespace {
 
-std::string methodOf(kinds::Missed) {
-  return "<Method><getMissedCallList></Method>";
-}
-std::string methodOf(kinds::Dialled) {
-  return "<Method><getDialledCallList></Method>";
-}
-std::string methodOf(kinds::Received) {
-  return "<Method><getReceivedCallList></Method>";
-}
-std::string methodOf(kinds::Forwarded) {
-  return "<Method><getForwardedCallList></Method>";
-}
-
-template <typename KindType>
-class ListResponse : public ::testing::Test {
-protected:
-  static std::string bodyOf(typename KindType::Item const& item) {
-    std::string body;
-    KindType::writeBody(item, body, false);
-    return body;
-  }
-};
-
+template <class KindType>
+class ListResponse : public ::testing::Test {};
 TYPED_TEST_SUITE(ListResponse, kinds::All, kinds::KindNames);
 
 TYPED_TEST(ListResponse, Empty) {
-  EXPECT_EQ(TypeParam::respond({}, 0), methodOf(TypeParam()) + "<Handle>0</Handle>");
+  EXPECT_EQ(TypeParam::respond({}, 0), TypeParam::listMethod() + "<Handle>0</Handle>");
 }
 
 TYPED_TEST(ListResponse, OneEntry) {
   auto const item = TypeParam::full();
-  EXPECT_EQ(TypeParam::respond({item}, 7),
-            methodOf(TypeParam()) + "<Entry>" + this->bodyOf(item) + "</Entry><Handle>7</Handle>");
+  EXPECT_EQ(TypeParam::respond({item}, 7), TypeParam::listMethod() + "<Entry>" +
+                                               TypeParam::body(item) +
+                                               "</Entry><Handle>7</Handle>");
 }
 
 TYPED_TEST(ListResponse, EntriesInOrder) {
@@ -45,23 +25,23 @@ TYPED_TEST(ListResponse, EntriesInOrder) {
   items.push_front(TypeParam::sparse());
   items.push_back({});
   items.push_back(TypeParam::full());
-  std::string expected = methodOf(TypeParam());
+  std::string expected = TypeParam::listMethod();
   for (auto const& item : items)
-    expected += "<Entry>" + this->bodyOf(item) + "</Entry>";
+    expected += "<Entry>" + TypeParam::body(item) + "</Entry>";
   EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
 }
 
-// Long and short entries, in all far more than is reserved for them.
+// Long and short entries, far more of them than memory is reserved for.
 TYPED_TEST(ListResponse, ManyEntriesOfManyLengths) {
   typename TypeParam::Log items;
-  std::string expected = methodOf(TypeParam());
+  std::string expected = TypeParam::listMethod();
   for (std::string::size_type length = 0; length < 9000; length = length * 5 / 4 + 1) {
     for (std::string::size_type const size : {length, std::string::size_type(1)}) {
       items.push_back(TypeParam::full());
       items.back().uniqueId = std::string(size, 'u');
       items.back().firstname = std::string(length, '&');
       items.back().callInfoList.back().timeDate = std::string(size * 3, 't');
-      expected += "<Entry>" + this->bodyOf(items.back()) + "</Entry>";
+      expected += "<Entry>" + TypeParam::body(items.back()) + "</Entry>";
     }
   }
   EXPECT_EQ(TypeParam::respond(items, 3), expected + "<Handle>3</Handle>");
@@ -77,7 +57,7 @@ TYPED_TEST(ListResponse, HandlesAreSigned) {
        {Row{0, "0"}, Row{9, "9"}, Row{10, "10"}, Row{2147483647U, "2147483647"},
         Row{2147483648U, "-2147483648"}, Row{2147483649U, "-2147483647"}, Row{4294967295U, "-1"}}) {
     std::string const response = TypeParam::respond({}, row.handle);
-    EXPECT_EQ(response, methodOf(TypeParam()) + "<Handle>" + row.text + "</Handle>");
+    EXPECT_EQ(response, TypeParam::listMethod() + "<Handle>" + row.text + "</Handle>");
     typename TypeParam::Log items;
     unsigned int handle = 99;
     TypeParam::readLogAndHandle(response, items, handle);
@@ -86,14 +66,8 @@ TYPED_TEST(ListResponse, HandlesAreSigned) {
 }
 
 TYPED_TEST(ListResponse, IsRecognisedByItsMethod) {
-  bool const missed = std::is_same_v<TypeParam, kinds::Missed>;
-  bool const dialled = std::is_same_v<TypeParam, kinds::Dialled>;
-  bool const received = std::is_same_v<TypeParam, kinds::Received>;
   EXPECT_EQ(JournalServiceHelper::getMethodFromXMLMsg(TypeParam::respond(TypeParam::log(), 1)),
-            missed     ? 1U
-            : dialled  ? 8U
-            : received ? 11U
-                       : 14U);
+            JournalServiceHelper::getMethodFromXMLMsg(TypeParam::listMethod()));
 }
 
 TYPED_TEST(ListResponse, TheLogStaysAsItWas) {
@@ -103,7 +77,7 @@ TYPED_TEST(ListResponse, TheLogStaysAsItWas) {
 }
 
 // All kinds share one hint: the longest response so far, and 4096 characters more, is reserved.
-TYPED_TEST(ListResponse, RoomIsReservedForTheLongestResponseSoFar) {
+TYPED_TEST(ListResponse, MemoryIsReservedForTheLongestResponseSoFar) {
   std::string const before = TypeParam::respond({}, 0);
   EXPECT_GE(before.capacity(), 4096U); // whether or not it is the first one
 
@@ -123,7 +97,7 @@ TYPED_TEST(ListResponse, RoomIsReservedForTheLongestResponseSoFar) {
 }
 
 // An answer that is somewhat longer than any before takes no more memory than was reserved for it.
-TYPED_TEST(ListResponse, ALogThatGrewByAnEntryFitsIntoTheRoom) {
+TYPED_TEST(ListResponse, ALogThatGrewByAnEntryFitsIntoWhatIsReserved) {
   typename TypeParam::Log items(20, TypeParam::full());
   items.front().uniqueId = std::string(TypeParam::respond({}, 0).capacity(), 'x');
   std::size_t const longest = TypeParam::respond(items, 0).size();

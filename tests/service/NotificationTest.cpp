@@ -8,32 +8,6 @@ namespace {
 
 std::string const DECLARATION = "<?xml version=\"1.0\" encoding=\"utf-8\"?>";
 
-std::string methodOf(kinds::Missed) {
-  return "<Method><missedCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Dialled) {
-  return "<Method><dialledCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Received) {
-  return "<Method><receivedCallsUpdate></Method>";
-}
-std::string methodOf(kinds::Forwarded) {
-  return "<Method><forwardedCallsUpdate></Method>";
-}
-
-unsigned int codeOf(kinds::Missed) {
-  return 22;
-}
-unsigned int codeOf(kinds::Dialled) {
-  return 24;
-}
-unsigned int codeOf(kinds::Received) {
-  return 25;
-}
-unsigned int codeOf(kinds::Forwarded) {
-  return 26;
-}
-
 int countOf(std::string const& piece, std::string const& text) {
   int count = 0;
   for (std::string::size_type at = 0; (at = text.find(piece, at)) != std::string::npos; ++at)
@@ -41,15 +15,13 @@ int countOf(std::string const& piece, std::string const& text) {
   return count;
 }
 
-template <typename KindType>
+template <class KindType>
 class EntryNotification : public ::testing::Test {
 protected:
   using Action = JournalServiceObserverIfc::ActionType;
 
   static std::string front(typename KindType::Item const& item) {
-    std::string text = DECLARATION + methodOf(KindType());
-    KindType::writeBody(item, text, false);
-    return text;
+    return DECLARATION + KindType::updateMethod() + KindType::body(item);
   }
 };
 
@@ -103,7 +75,8 @@ TYPED_TEST(EntryNotification, HandlesAreSigned) {
 TYPED_TEST(EntryNotification, IsRecognisedByItsMethod) {
   std::string const text =
       TypeParam::notify(TypeParam::full(), "17", JournalServiceObserverIfc::ENTRY_ADDED, 1);
-  EXPECT_EQ(JournalServiceHelper::getMethodFromXMLMsg(text), codeOf(TypeParam()));
+  EXPECT_EQ(JournalServiceHelper::getMethodFromXMLMsg(text),
+            JournalServiceHelper::getMethodFromXMLMsg(TypeParam::updateMethod()));
   EXPECT_EQ(text.find(DECLARATION), 0U);
   EXPECT_EQ(countOf("<?xml", text), 1);
   EXPECT_EQ(countOf("<Method>", text), 1);

@@ -1,5 +1,5 @@
-// Many threads at once: every operation on the same texts and records, and list answers of rising
-// length. Meant for ThreadSanitizer, and right without it.
+// Many threads at once: every operation on the same texts and records, and list answers of growing
+// length. Useful with ThreadSanitizer above all.
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
@@ -24,9 +24,9 @@ using operations::ResultHash;
 using Library = JournalServiceHelper;
 
 constexpr std::size_t THREADS = 8;
-constexpr std::size_t ROOM_TO_GROW = 4096; // reserved beyond the longest answer so far
+constexpr std::size_t RESERVE = 4096; // beyond the longest answer so far
 
-// Runs something in each thread, all starting at once; it is told the thread's number.
+// Calls something(number) in each thread, all starting at once.
 void inAllThreads(std::function<void(std::size_t)> const& something) {
   std::atomic<std::size_t> ready{0};
   std::vector<std::thread> threads;
@@ -52,7 +52,7 @@ std::vector<Input> sharedInputs() {
       log.push_back(operations::someItem<MissedCallItem>(random));
     input.text = Library::respGetMissedCallList(log, input.number);
     if (count % 2 == 1)
-      input.text = operations::damaged(input.text, 3, random);
+      input.text.erase(random.below(input.text.size()), 3); // damaged
     operations::chooseElement(input, random);
     inputs.push_back(input);
   }
@@ -69,7 +69,7 @@ std::uint64_t resultOf(Operation const& operation, Input const& input) {
 
 TEST(Threads, UseEveryOperationAtOnce) {
   constexpr int rounds = 4;
-  auto const operations = operations::all<Library>();
+  auto const operations = operations::all();
   auto const inputs = sharedInputs();
   std::vector<std::uint64_t> expected;
   for (auto const& input : inputs)
@@ -79,7 +79,7 @@ TEST(Threads, UseEveryOperationAtOnce) {
   std::atomic<int> different{0};
   std::atomic<int> ran{0};
   inAllThreads([&](std::size_t number) {
-    // Half of the threads go through the same cases side by side, the others elsewhere.
+    // Half of the threads run the same cases at the same time, the others start elsewhere.
     auto const cases = expected.size();
     auto const start = number % 2 == 0 ? 0 : number * cases / THREADS;
     for (std::size_t step = 0; step < rounds * cases; ++step) {
@@ -115,7 +115,7 @@ TEST(Threads, NeverLowerTheReservationForAnswers) {
       log.front().picture.assign(answer * (1000 + number), 'p');
       raise(longest, Library::respGetMissedCallList(log, 0).size());
 
-      auto const least = longest + ROOM_TO_GROW; // other threads may raise it meanwhile
+      auto const least = longest + RESERVE; // other threads may raise it meanwhile
       auto const reserved = reservedForAnswer();
       tooSmall += reserved < least ? 1 : 0;
       fell += reserved < before ? 1 : 0;
@@ -125,7 +125,7 @@ TEST(Threads, NeverLowerTheReservationForAnswers) {
   EXPECT_EQ(tooSmall, 0);
   EXPECT_EQ(fell, 0);
   EXPECT_GE(longest, answers * 1000);
-  EXPECT_EQ(reservedForAnswer(), longest + ROOM_TO_GROW);
+  EXPECT_EQ(reservedForAnswer(), longest + RESERVE);
 }
 
 TEST(Threads, KeepTheLongestReservationWhenEachAnswerRaisesIt) {
@@ -138,12 +138,12 @@ TEST(Threads, KeepTheLongestReservationWhenEachAnswerRaisesIt) {
       std::deque<MissedCallItem> log(1);
       log.front().picture.assign(next++, 'p');
       auto const size = Library::respGetMissedCallList(log, 0).size();
-      tooSmall += reservedForAnswer() < size + ROOM_TO_GROW ? 1 : 0;
+      tooSmall += reservedForAnswer() < size + RESERVE ? 1 : 0;
       raise(longest, size);
     }
   });
   EXPECT_EQ(tooSmall, 0);
-  EXPECT_EQ(reservedForAnswer(), longest + ROOM_TO_GROW);
+  EXPECT_EQ(reservedForAnswer(), longest + RESERVE);
 }
 
 } // namespace

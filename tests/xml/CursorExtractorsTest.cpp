@@ -1,4 +1,4 @@
-// Single elements, read at a cursor: the search, the value and the cursor that comes back.
+// Single elements, read at a cursor: the search, the value and the cursor that is returned.
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -54,7 +54,7 @@ TEST(CursorText, IsTakenFromTheFirstElement) {
     expectRow(row);
 }
 
-TEST(CursorText, LeavesTheCursorWhenTheElementStandsFurtherOn) {
+TEST(CursorText, LeavesTheCursorWhenTheElementIsFurtherOn) {
   Row const rows[] = {
       entry("a blank in front", " <Entry>x</Entry><Entry>y</Entry>", "x", 0),
       entry("an element in front", "<Item>1</Item><Entry>x</Entry>", "x", 0),

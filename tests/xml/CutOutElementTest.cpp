@@ -76,8 +76,8 @@ TEST(GetAndRemoveXMLValue, TouchesNothingWhenAbsentOrEmpty) {
   }
 }
 
-// A missing begin tag counts as standing at -1: all of the message stands before it, and what is
-// behind the close tag is appended to that once more.
+// A missing begin tag counts as position -1. The whole message is then taken as the part before it,
+// and the part after the close tag is appended once more.
 TEST(GetAndRemoveXMLValue, DoublesTheTailWhenTheBeginTagIsMissing) {
   Row const rows[] = {
       {"with a tail", "01234567</Number>tail", "Number", "7", "01234567</Number>tailtail"},

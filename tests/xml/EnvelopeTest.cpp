@@ -42,7 +42,7 @@ TEST(AddXMLHeaderFooter, WrapsALongBody) {
             message);
 }
 
-// The envelope does not look at what it wraps.
+// What is wrapped makes no difference.
 TEST(AddXMLHeaderFooter, WrapsAFinishedMessageOnceMore) {
   std::string message = "x";
   J::addXMLHeaderFooter(message, "");

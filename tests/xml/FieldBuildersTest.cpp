@@ -62,7 +62,7 @@ TEST(CreateXMLField, CopiesALongText) {
   EXPECT_EQ("<Number>" + value + "</Number>", J::createXMLField("Number", value));
 }
 
-// A literal must not slip into the flag overload.
+// A literal must not select the overload for flags.
 TEST(CreateXMLField, TakesALiteralAsText) {
   EXPECT_EQ("<Number>text</Number>", J::createXMLField(J::NUMBER, "text"));
   EXPECT_EQ("<Number>0</Number>", J::createXMLField("Number", "0"));

@@ -1,5 +1,5 @@
 // Elements on both sides of 2 GiB: positions are compared as signed 32-bit numbers, as on the
-// device, which cannot hold such a text; a desktop can, and must not do otherwise.
+// device, which cannot hold such a text; a desktop can, and must give the same results.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -22,7 +22,7 @@ bool canHold(std::uint64_t size) {
 TEST(HugeText, IsReadByPositionsOf32Bits) {
   constexpr std::uint64_t boundary = 0x80000000;
   constexpr std::uint64_t size = boundary + 64;
-  // Such a text cannot be on 32 bits, nor where there is not the memory; CI's machines have it.
+  // Such a text fits neither on a 32-bit machine nor into little memory; CI's machines have enough.
   if (!canHold(size))
     GTEST_SKIP() << "needs a 64-bit machine with 4 GiB of memory to spare";
 
@@ -45,7 +45,7 @@ TEST(HugeText, IsReadByPositionsOf32Bits) {
     std::string value = "left over";
     EXPECT_EQ(row.isRead, J::getXMLValue(text, "N", value));
     EXPECT_EQ(row.isRead ? "1" : "left over", value);
-    if (!row.isCut) { // cutting takes copies, which few machines have the memory for
+    if (!row.isCut) { // cutting makes copies, for which few machines have the memory
       EXPECT_FALSE(J::getAndRemoveXMLValue(text, "N", value));
       EXPECT_EQ(size, text.size());
     }

@@ -125,7 +125,7 @@ TEST(ParseLastUniqueId, LeavesEveryTruncationAlone) {
     expectFalse({"truncated", whole.substr(0, length), whole.substr(0, length)});
 }
 
-// The text ends at the entry for whoever reads it up to a NUL, yet keeps its length.
+// Read up to its NUL, the text then ends at the entry; its length is unchanged.
 TEST(ParseLastUniqueId, FindsNoEntryTheSecondTime) {
   std::string message = "<Entry><UniqueId>5</UniqueId></Entry><Handle>1</Handle>";
   std::string uniqueId;

@@ -88,8 +88,8 @@ TEST(MessageText, IsAbsentInEveryTruncation) {
     expectNotFound("truncated", whole.substr(0, length), "Number");
 }
 
-// A begin tag that is missing counts as standing at -1, so it would end one byte earlier than a
-// begin tag at the front; clients have come to rely on what follows from that.
+// A missing begin tag counts as position -1, so its end is one byte earlier than that of a begin
+// tag at the front. Clients have come to rely on this.
 TEST(MessageText, IsDeliveredWithoutABeginTagFromWhereThatWouldEnd) {
   Row const rows[] = {
       {"one byte", "01234567</Number>", "Number", "7"},

@@ -19,7 +19,7 @@ struct Method {
   char const* tag;
 };
 
-// In the order of the search, which is not that of the codes.
+// In the order in which they are searched, which is not that of the codes.
 constexpr Method methods[] = {
     {J::GETMISSEDCALLLIST, 1, "<getMissedCallList>"},
     {J::SETMISSEDCALLLISTASVIEWED, 3, "<setMissedCallListAsViewed>"},
@@ -134,7 +134,7 @@ TEST(GetMethodFromXMLMsg, LooksBetweenTheFirstMethodTagsOnly) {
     EXPECT_EQ(row.code, codeOf(row.message)) << row.what;
 }
 
-TEST(GetMethodFromXMLMsg, LooksToTheEndWhenTheFirstCloseTagStandsEarlier) {
+TEST(GetMethodFromXMLMsg, LooksToTheEndWhenTheFirstCloseTagIsEarlier) {
   struct {
     char const* what;
     std::string message;
