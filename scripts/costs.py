@@ -28,17 +28,24 @@ def output_of(*command, env=None):
 
 # ---- Footprint
 
+LIBRARIES = {  # the rows: the prefix of the tools' names, and the preset
+    'MIPS MinSizeRel': ('mips-linux-gnu-', 'mips-size'),
+    'MIPS16 MinSizeRel': ('mips-linux-gnu-', 'mips16'),
+    'MIPS Release': ('mips-linux-gnu-', 'mips'),
+    'x86-64 MinSizeRel': ('', 'size'),
+    'x86-64 Release': ('', 'release'),
+}
+
+
 def footprint():
-    """Sizes of the stripped libraries: (architecture, build) -> text, data, both."""
+    """Sizes of the stripped libraries: row -> text, data, both."""
     rows = {}
-    for architecture, prefix in ('MIPS', 'mips-linux-gnu-'), ('x86-64', ''):
-        for name, preset in ('MinSizeRel', 'size'), ('Release', 'release'):
-            folder = preset if not prefix else {'size': 'mips-size', 'release': 'mips'}[preset]
-            stripped = WORK / f'{folder}.so'
-            output_of(prefix + 'strip', '-o', stripped,
-                      f'build/{folder}/src/libJournalServiceHelper.so')
-            text, data = map(int, output_of(prefix + 'size', stripped).splitlines()[1].split()[:2])
-            rows[f'{architecture} {name}'] = [text, data, text + data]
+    for row, (prefix, preset) in LIBRARIES.items():
+        stripped = WORK / f'{preset}.so'
+        output_of(prefix + 'strip', '-o', stripped,
+                  f'build/{preset}/src/libJournalServiceHelper.so')
+        text, data = map(int, output_of(prefix + 'size', stripped).splitlines()[1].split()[:2])
+        rows[row] = [text, data, text + data]
     return rows
 
 

@@ -23,6 +23,7 @@ declare -A journal_packages=(
   [demo]='cmake g++ ninja-build'
   [differential]=$native
   [mips-ubsan]=$mips
+  [mips16]=$mips
   [memcheck]="$native valgrind"
   [i686]='cmake ninja-build googletest g++-i686-linux-gnu'
   [mipsel]="$emulated g++-mipsel-linux-gnu"

@@ -63,13 +63,19 @@ public:
 
   /// Written escaped. Every text is unescaped when it is read.
   constexpr FieldDescriptor escaped() const {
-    return with([](FieldDescriptor& field) { field.escaped_ = true; });
+    auto field = *this;
+    field.escaped_ = true;
+    return field;
   }
   constexpr FieldDescriptor discarded() const {
-    return with([](FieldDescriptor& field) { field.reading_ = Reading::discarded; });
+    auto field = *this;
+    field.reading_ = Reading::discarded;
+    return field;
   }
   constexpr FieldDescriptor unclosed() const {
-    return with([](FieldDescriptor& field) { field.reading_ = Reading::unclosed; });
+    auto field = *this;
+    field.reading_ = Reading::unclosed;
+    return field;
   }
 
   // ---- What most records hold: literal runs, which a strict parser built for speed compares at
@@ -77,12 +83,16 @@ public:
 
   /// Most records hold this value.
   constexpr FieldDescriptor expected(int value) const {
-    return with([value](FieldDescriptor& f) { f.expected_ = static_cast<std::int8_t>(value); });
+    auto field = *this;
+    field.expected_ = static_cast<std::int8_t>(value);
+    return field;
   }
   /// Where the field before holds its expected value, this one mostly does too, or is absent if it
   /// has none; so both are compared at once.
   constexpr FieldDescriptor joined() const {
-    return with([](FieldDescriptor& field) { field.joined_ = true; });
+    auto field = *this;
+    field.joined_ = true;
+    return field;
   }
 
   // The element's tags.
@@ -111,13 +121,6 @@ public:
   void* in(void* record) const { return static_cast<char*>(record) + offset_; }
 
 private:
-  template <class Change>
-  constexpr FieldDescriptor with(Change change) const {
-    auto changed = *this;
-    change(changed);
-    return changed;
-  }
-
   static constexpr std::int8_t none = -1;
 
   std::uint16_t tags_;

@@ -1,29 +1,49 @@
 // The public constants, each made from its word when the library is loaded.
+#include <cstring>
 #include <string>
+#include <string_view>
 
 #include "JournalServiceHelper.h"
 #include "vocabulary/Tags.h"
-#include "vocabulary/Words.h"
 
 namespace {
 
 using namespace journal;
 
-// Not inlined: each construction in place would take three times the code.
-[[gnu::noinline]] std::string text(std::string_view word) {
-  return std::string(word);
+// The constants are initialised in the order of Words.def, so each takes the next word or the next
+// tag. Passing every constructor its own text would take 2 KB more on the device.
+
+constexpr char words[] =
+#define WORD(NAME, text) text "\0"
+#include "vocabulary/Words.def"
+    ;
+
+[[gnu::noinline]] std::string nextWord() {
+  static char const* at = words;
+  std::string word(at);
+  at += word.size() + 1;
+  return word;
+}
+
+[[gnu::noinline]] std::string nextTag() {
+  static char const* at = detail::tags.text;
+  auto const* const front = at;
+  at = std::strchr(at, '>') + 1;
+  return std::string(front, at);
 }
 
 } // namespace
 
-#define WORD(NAME, literal) std::string const JournalServiceHelper::NAME = text(word::NAME);
-#define TAGS(NAME, WORD)                                                                           \
-  std::string const JournalServiceHelper::NAME##_XML_BEGIN = text(element<word::WORD>.begin());    \
-  std::string const JournalServiceHelper::NAME##_XML_CLOSE = text(element<word::WORD>.close());
-#define ELEMENT(NAME, literal) WORD(NAME, literal) TAGS(NAME, NAME)
+#define WORD(NAME, text) std::string const JournalServiceHelper::NAME = nextWord();
+#define ELEMENT(NAME, text)                                                                        \
+  WORD(NAME, text)                                                                                 \
+  std::string const JournalServiceHelper::NAME##_XML_BEGIN = nextTag();                            \
+  std::string const JournalServiceHelper::NAME##_XML_CLOSE = nextTag();
 #include "vocabulary/Words.def"
 
-// The two pairs whose names differ from their element's: the one for Handle has no constant for the
-// element's name, the one for CallLogEnabled is named differently.
-TAGS(HANDLE, HANDLE)
-TAGS(ENABLED, CALL_LOG_ENABLED)
+// The two pairs whose names differ from their element's. Their elements are the first behind the
+// regular ones.
+std::string const JournalServiceHelper::HANDLE_XML_BEGIN = nextTag();
+std::string const JournalServiceHelper::HANDLE_XML_CLOSE = nextTag();
+std::string const JournalServiceHelper::ENABLED_XML_BEGIN = nextTag();
+std::string const JournalServiceHelper::ENABLED_XML_CLOSE = nextTag();

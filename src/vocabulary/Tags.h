@@ -15,8 +15,9 @@ inline constexpr std::string_view elementNames[] = {
 #define WORD(NAME, text)
 #define ELEMENT(NAME, text) word::NAME,
 #include "vocabulary/Words.def"
-    // Elements without a regular pair of constants.
-    word::SCHEMA, word::VALUE, word::HANDLE, word::CALL_LOG_ENABLED};
+    // Elements whose constants are named differently, and elements without constants for their
+    // tags.
+    word::HANDLE, word::CALL_LOG_ENABLED, word::SCHEMA, word::VALUE};
 
 /// The size of an element's two tags.
 constexpr std::size_t tagsSize(std::size_t nameSize) {
