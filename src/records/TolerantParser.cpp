@@ -87,14 +87,13 @@ private:
   /// The field that a tag belongs to, if any. Most tags are in order, so the search starts behind
   /// the field found last.
   FieldDescriptor const* fieldOf(std::string_view tag) {
-    for (auto const* end : {fields_.end(), next_}) {
-      for (auto const* field = end == next_ ? fields_.begin() : next_; field != end; ++field) {
-        auto const own = closes(tag) ? field->close() : field->begin();
-        if (own.size() == tag.size() && sameBytes(own.data(), tag.data(), tag.size())) {
-          next_ = field + 1;
-          return field;
-        }
-      }
+    for (auto left = fields_.end() - fields_.begin(); left > 0; --left) {
+      if (next_ == fields_.end())
+        next_ = fields_.begin();
+      auto const& field = *next_++;
+      auto const own = closes(tag) ? field.close() : field.begin();
+      if (own.size() == tag.size() && sameBytes(own.data(), tag.data(), tag.size()))
+        return &field;
     }
     return nullptr;
   }
