@@ -21,7 +21,7 @@ std::string_view nameOf(std::string const& leaf) {
   return std::string_view(leaf).substr(1, leaf.find('>') - 1);
 }
 
-// A begin tag directly followed by its close tag makes a leaf; any other tag is a piece of its own.
+// A begin tag directly followed by its close tag makes a leaf; any other tag is a separate piece.
 Pieces piecesOf(std::string_view text) {
   Pieces pieces;
   while (!text.empty()) {

@@ -1,5 +1,5 @@
 // The messages as well-formed XML. A list response has no root, an unclosed method tag and raw
-// ampersands; strict parsers need the same contents with a root and with everything escaped.
+// ampersands; XML parsers need the same contents with a root and with everything escaped.
 #ifndef BENCH_DOCUMENTS_H
 #define BENCH_DOCUMENTS_H
 

@@ -1,8 +1,8 @@
 // The elements of the records, for the peers: each with the member that it carries.
 //
-// They come from the list of members, which is independent of the library's own tables. So it
-// proves something when a peer produces the same records. Peers write and expect the elements in
-// the list's order.
+// They come from the list of members, which is independent of the library's own tables, so a peer
+// that produces the same records confirms the library's. Peers write and expect the elements in the
+// list's order.
 #ifndef BENCH_FIELDS_H
 #define BENCH_FIELDS_H
 

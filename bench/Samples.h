@@ -18,7 +18,7 @@ struct Sample {
   std::string message;    // the list response that it is encoded to
   typename Kind::Log
       decoded; // what the oracle decodes from the message: the log without what reading drops
-  std::string document; // the same contents as well-formed XML, for the strict parsers
+  std::string document; // the same contents as well-formed XML, for the XML parsers
 };
 
 template <class Kind>

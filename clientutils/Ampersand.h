@@ -74,7 +74,7 @@ inline bool isInShort(char const* text, std::size_t size) {
 
 #endif
 
-/// Not inlined, so that the path for short texts saves no registers for the call.
+/// Not inlined, so that the path for short texts need not save registers for the call.
 [[gnu::noinline]] inline bool isInOther(char const* text, std::size_t size) {
   return std::memchr(text, '&', size) != nullptr;
 }

@@ -75,7 +75,7 @@ Entity entityAtFrontOf(std::string_view text) {
 }
 
 // Most texts hold nothing to replace. These two handle the others and are not inlined, so that the
-// path for most texts is short.
+// fast path stays short.
 
 [[gnu::noinline]] std::string escapedFrom(std::size_t special, std::string_view rest) {
   std::string escaped;

@@ -55,7 +55,7 @@ inline std::string replaceElements(std::string text, std::string const& name,
   return text;
 }
 
-/// What is written of a member that has its default: nothing of a text, which is then empty.
+/// What is written for a member with its default: nothing for a text, because it is empty.
 template <class Member>
 std::string defaultElement(Member const& member) {
   using Value = typename Member::Value;

@@ -1,5 +1,5 @@
-// Fuzzes escaping and unescaping. Some values of the first byte choose numbers instead, or whatever
-// takes a single word: conversions and the builders of elements.
+// Fuzzes escaping and unescaping. Some values of the first byte choose numbers instead, or the
+// operations that take a single word: conversions and the builders of elements.
 #include "Fuzz.h"
 #include "differential/Comparison.h"
 

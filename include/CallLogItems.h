@@ -2,8 +2,9 @@
 /// The records of the four call logs. A log is a std::deque of entries, front first. An entry is
 /// one party and the list of the calls made to or from it.
 ///
-/// A field is named after the message element that carries it, with its first letter lowered. The
-/// four kinds are not uniform: each has the fields that its log needs, in an order of its own.
+/// A field is named after the message element that carries it, with its first letter in lower case.
+/// (LogList carries callInfoList, JSGroupBy carries jsGroupBy, and no element carries infoKey.) The
+/// four kinds are not uniform: each has the fields that its log needs, in its own order.
 ///
 /// Texts are byte strings that hold UTF-8. A default-constructed record holds empty texts, an empty
 /// list, false flags and the default member of every enumeration. Records are plain values: copies

@@ -82,13 +82,13 @@
 /// @}
 
 // Some platforms define TRUE and FALSE as macros. They are set aside for the class and restored
-// behind it. Code on such a platform must #undef them before it names JournalServiceHelper::TRUE.
+// after it. Code on such a platform must #undef them before it names JournalServiceHelper::TRUE.
 #pragma push_macro("TRUE")
 #pragma push_macro("FALSE")
 #undef TRUE
 #undef FALSE
 
-/// Every operation on the messages of the journal service, and behind them their vocabulary.
+/// Every operation on the messages of the journal service, followed by their vocabulary.
 class JOURNAL_EXPORT JournalServiceHelper {
 public:
   JournalServiceHelper() = delete;
@@ -481,7 +481,7 @@ public:
   // order. Positions are compared as signed 32-bit numbers.
   //
   // A missing begin tag counts as position -1. A close tag far enough on then gives true and the
-  // text in front of it, from the offset where such a begin tag would end. Where a message may hold
+  // text before it, from the offset where such a begin tag would end. Where a message may hold
   // a stray close tag, search for the begin tag first.
 
   /// Reads a text.
@@ -514,8 +514,8 @@ public:
   /// @return whether a non-empty value was found
   static bool getXMLValue(std::string const& text, std::string const& name, NumberType::NT& value);
 
-  /// Cuts an element out of a message, tags included. In this way the service reads the entry ids
-  /// of a request from a copy of the message:
+  /// Cuts an element out of a message, tags included. The service reads the entry ids of a request
+  /// with it, from a copy of the message:
   ///
   ///     std::set<std::string> entryIdsOf(std::string message) {
   ///       using Helper = JournalServiceHelper;

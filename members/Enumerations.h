@@ -1,6 +1,6 @@
 // The members of the enumerations in call records: one list for everything outside src/.
 //
-// An enumeration member that is missing here does not build.
+// A list that lacks a member of its enumeration does not compile.
 #ifndef MEMBERS_ENUMERATIONS_H
 #define MEMBERS_ENUMERATIONS_H
 
@@ -22,8 +22,8 @@ struct Enumerator {
 
 // ENUMERATION defines, from one list of names,
 //   enumeratorsOf(value)  the list; the argument only selects the enumeration
-//   isEnumerator(value)   whether a member has this value; its switch is what makes the compiler
-//                         refuse a list that misses a member
+//   isEnumerator(value)   whether a member has this value; its switch makes the compiler reject a
+//                         list that lacks a member
 #define ENUMERATOR_ROW(Scope, name) Enumerator<Enumeration>{Scope::name, #name},
 #define ENUMERATOR_CASE(Scope, name) case Scope::name:
 #define ENUMERATION(Type, NAMES)                                                                   \

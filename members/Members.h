@@ -1,8 +1,8 @@
 // The members of the call-log records: one list for everything outside src/.
 //
 // Tests, tools, examples and benchmarks visit this list instead of naming members themselves. It is
-// independent of the library's own field descriptors, so that it can test them. A record member
-// that is missing here does not build.
+// independent of the library's own field descriptors, so that it can test them. A list that lacks a
+// member of its record does not compile.
 #ifndef MEMBERS_MEMBERS_H
 #define MEMBERS_MEMBERS_H
 
@@ -16,7 +16,7 @@
 
 namespace members {
 
-/// What becomes of a member on its way through a message.
+/// Whether a member is written to a message, and read back.
 enum class Travel {
   bothWays,    ///< written, and read back
   writtenOnly, ///< written, but what is read back does not depend on it

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures what the library costs and holds it against the tables of docs/costs.md.
+"""Measures what the library costs and compares it with the tables of docs/costs.md.
 
 usage: costs.py [--update]      run by scripts/costs, which builds what is measured
 """

@@ -4,8 +4,8 @@ set -euo pipefail
 journal_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 journal_jobs=$(nproc)
 
-# The Debian packages of each script and of each stage of scripts/test. All that a build looks for
-# is named, since CMake leaves out what it does not find, without an error.
+# The Debian packages of each script and of each stage of scripts/test. Everything that a build
+# looks for is listed, because CMake silently leaves out what it does not find.
 native='cmake g++ ninja-build libgtest-dev libcli11-dev'
 emulated='cmake ninja-build googletest qemu-user'
 mips="$emulated g++-mips-linux-gnu"

@@ -1,4 +1,4 @@
-// Compares a message with what writers write.
+// Finds where a message differs from what writers write.
 #ifndef TOOLS_CHECK_H
 #define TOOLS_CHECK_H
 

@@ -17,7 +17,7 @@ struct Node {
     PART,      ///< the begin of an element that holds elements
     END,       ///< its end, or where it is assumed to end
     LEAF,      ///< an element with its value
-    TAG,       ///< a begin tag without a close tag of its own
+    TAG,       ///< a begin tag without its close tag
     CLOSE_TAG, ///< a close tag that closes nothing
     TEXT       ///< bytes between elements
   };

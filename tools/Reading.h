@@ -1,4 +1,4 @@
-// What a reader of the library makes of a message.
+// Shows how the library's readers read a message.
 #ifndef TOOLS_READING_H
 #define TOOLS_READING_H
 

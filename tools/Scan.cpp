@@ -208,7 +208,7 @@ private:
   }
 
   std::string_view text;
-  std::size_t done = 0; ///< everything in front of it is in the nodes
+  std::size_t done = 0; ///< everything before it is in the nodes
   std::unordered_map<std::string_view, std::vector<std::size_t>> closeTags;
   std::vector<Part> open;
   Nodes nodes;

@@ -157,7 +157,7 @@ add_shell_test(closed_output 2 "the output cannot be written" "\"$@\" >&-"
 add_shell_test(full_disk 2 "the output cannot be written" "\"$@\" > /dev/full"
   "${golden}/reqSubscribe.xml")
 add_show_test(endless_file 2 "cannot read /dev/zero: larger than" /dev/zero)
-# Neither depth nor length may cost more than the text is long.
+# Neither depth nor length may take more than linear time.
 set(flood "head -c 2000000 | tr -d '\\n' | (\"$@\" --values; echo exit code $?) | tail -n 2")
 add_shell_test(deep_nesting 0 "^exit code 1$" "yes '<Entry><LogList><Item><Number><x>' | ${flood}")
 add_shell_test(only_brackets 0 "^exit code 1$" "yes '<' | ${flood}")

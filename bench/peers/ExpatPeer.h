@@ -18,8 +18,8 @@
 
 namespace bench {
 
-/// Stores elements in a record. They mostly come in the list's order, so the search for each starts
-/// after its predecessor.
+/// Stores elements in a record. They usually come in the list's order, so the search for each
+/// starts after its predecessor.
 template <class Record>
 class FieldSetter {
 public:

@@ -56,7 +56,7 @@ private:
   // Texts are bytes: the records hold byte strings, and Protobuf does not check bytes for UTF-8.
   // Enumerations are int32, which is encoded in the same bytes as a Protobuf enumeration. Texts get
   // the first field numbers: a number above 15 takes one more byte, and the enumerations at the end
-  // are mostly 0, which is not written.
+  // are usually 0, which is not written.
   template <class Record>
   void addMessage(std::string const& kind, std::string const& record) {
     int number = 0;

@@ -33,8 +33,8 @@ public:
 
   typename Kind::Log decode() {
     typename Kind::Log log;
-    // Only what the documents need: entities have to be decoded. Texts embedded in their elements
-    // take no node of their own.
+    // Only what the documents need: entities have to be decoded. Texts are embedded in their
+    // elements instead of separate nodes.
     constexpr unsigned int FLAGS =
         pugi::parse_minimal | pugi::parse_escapes | pugi::parse_embed_pcdata;
     std::memcpy(text_.data(), document_.data(), text_.size());

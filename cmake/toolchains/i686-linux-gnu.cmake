@@ -1,4 +1,4 @@
-# 32-bit x86, run as it is by the loader of its own C library, which the package brings.
+# 32-bit x86, run natively with the loader of its C library, which the package contains.
 set(triplet i686-linux-gnu)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

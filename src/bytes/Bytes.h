@@ -17,8 +17,8 @@
 
 namespace journal {
 
-/// Loads a word from any address. A packed structure does it, because g++ for MIPS copies eight
-/// bytes by way of the stack when it is given a memcpy.
+/// Loads a word from any address. It uses a packed structure, because g++ for MIPS compiles a
+/// memcpy of eight bytes into a copy by way of the stack.
 template <class Word>
 JOURNAL_INLINE inline Word load(char const* at) {
   struct [[gnu::packed, gnu::may_alias]] Unaligned {

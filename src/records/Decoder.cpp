@@ -1,8 +1,8 @@
 // Reads records: a strict fast path with a general fallback; both give the same result.
 //
-// The strict parser takes text exactly as our encoder writes it, the tolerant parser continues over
-// any other. Where neither can tell the result, the record is read again by plain searches, which
-// set every field that a parser may have set.
+// The strict parser accepts text exactly as our encoder writes it; the tolerant parser continues
+// over any other. Where neither can tell the result, plain searches read the record again. They set
+// every field that a parser may have set.
 #include "records/Decoder.h"
 
 #include "records/PlainSearch.h"
@@ -19,11 +19,10 @@ bool holdsHandle(std::string_view text) {
   return text.find(element<word::HANDLE>.begin()) != std::string_view::npos;
 }
 
-/// Reads every entry; the log is cleared first. A NUL that ends the text is noticed on the way: no
-/// value and nothing that is skipped may hold one. Searching for it first would take another pass
-/// over the message.
-/// @return the text from where the first Handle can be: without a part of the front that is known
-///         to hold none; a NUL ends it as it ends the text
+/// Reads every entry; the log is cleared first. The text ends at its first NUL, and the readers
+/// stop there. Searching for the NUL first would take another pass over the message.
+/// @return the part of the text in which the first Handle can be: without the front that is known
+///         to hold none, and not cut at the NUL yet
 std::string_view decodeEntries(std::string_view text, RecordOps const& ops, void* log) {
   ops.clearLog(log);
   FieldReader reader;

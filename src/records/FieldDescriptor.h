@@ -1,5 +1,5 @@
-// Field descriptors: how the members of a record are carried by the elements of a message. What a
-// kind of record does differently is visible in its descriptors and nowhere else.
+// Field descriptors: which element of a message carries which member of a record. All differences
+// between the kinds of records are in their descriptors.
 #ifndef JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 #define JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 
@@ -42,7 +42,7 @@ constexpr Enumeration const& enumerationOf(Content content) {
 /// The value of a member of any of the enumerations, which are all 32-bit.
 using MemberValue [[gnu::may_alias]] = Enumeration::Value;
 
-/// What becomes of an element that is read.
+/// How an element is read.
 enum class Reading : std::uint8_t {
   stored,
   discarded, // read, which may move the cursor, but its member keeps its value
@@ -87,8 +87,8 @@ public:
     field.expected_ = static_cast<std::int8_t>(value);
     return field;
   }
-  /// Where the field before holds its expected value, this one mostly does too, or is absent if it
-  /// has none; so both are compared at once.
+  /// Compared together with the field before. Most records that have the expected value there also
+  /// have this field's, or no such element if it has no expected value.
   constexpr FieldDescriptor joined() const {
     auto field = *this;
     field.joined_ = true;

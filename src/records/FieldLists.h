@@ -3,7 +3,7 @@
 //   forEach(fields, visit)   calls visit(field) for each field in order
 //   allOf(fields, visit)     calls visit(field, run, bit) until one returns false; returns whether
 //                            none did. The run is the literal run that starts with the field, or
-//                            empty; the bit stands for the field in a FieldSet
+//                            empty; the bit is the field's in a FieldSet
 #ifndef JOURNAL_RECORDS_FIELDLISTS_H
 #define JOURNAL_RECORDS_FIELDLISTS_H
 
@@ -54,8 +54,8 @@ JOURNAL_INLINE_ONCE inline bool allOf(LoopedFields fields, Visit visit) {
   return true;
 }
 
-/// Fields visited without a loop: every tag is a constant of known size, and it takes a few
-/// instructions to compare or copy it.
+/// Fields visited without a loop. Every tag is a constant of known size, so comparing or copying it
+/// takes a few instructions.
 template <auto const& fields>
 struct UnrolledFields {
   using Indices = std::make_index_sequence<std::size(fields)>;

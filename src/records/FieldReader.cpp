@@ -15,7 +15,7 @@ Enumeration::Value FieldReader::lookUpMember(std::string_view raw, Enumeration c
   return enumeration.memberOf(ClientUtils::unescapeXMLString(argument(raw)));
 }
 
-// The path of most values. What would need more registers is left to replaceUnprepared.
+// The fast path, for most values. What would need more registers is left to replaceUnprepared.
 void FieldReader::replace(std::string& text, std::string_view raw) {
   if (raw.size() >= arguments_.size() || arguments_[raw.size()].size() != raw.size())
     return replaceUnprepared(text, raw);

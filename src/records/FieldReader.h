@@ -45,7 +45,7 @@ private:
       replace(text, raw);
   }
 
-  /// Only the utility library knows what unescaping makes of a text, a member's text included. The
+  /// The utility library decides what unescaping makes of any text, a member's text included. The
   /// same text always gives the same result, so one call for each member's text is enough.
   JOURNAL_INLINE inline Enumeration::Value memberOf(std::string_view raw, Content content) {
     auto const& enumeration = enumerationOf(content);
@@ -78,7 +78,8 @@ private:
 
   static constexpr std::int8_t unknown = -1;
 
-  // The members that the members' texts give, by content and value, as far as known.
+  // What the utility library makes of each member's text: the member that it gives, by content and
+  // value; unknown until it was asked.
   std::array<std::array<std::int8_t, Enumeration::max>, std::size(enumerations)> known_;
 
   // Arguments for the utility library. They are kept, so that a long value does not allocate each

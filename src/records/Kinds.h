@@ -29,7 +29,7 @@ enum class LogKind : std::uint8_t { missed, dialled, received, forwarded };
   (FieldDescriptor(element<word::NAME>, offsetof(Record, member),                                  \
                    contentOf<decltype(Record::member)>))
 
-/// The fields with two neighbours exchanged.
+/// The fields with two adjacent ones exchanged.
 template <std::size_t size, std::size_t... index>
 constexpr std::array<FieldDescriptor, size>
 exchanged(FieldDescriptor const (&fields)[size], std::size_t first, std::index_sequence<index...>) {
@@ -120,8 +120,8 @@ struct Kind<DialledCallItem> {
       FIELD(Call, TIMEFORMAT, timeFormat).expected(CallLogEntryEvent::FORM_24),
   };
   // The reader asks for the priority before the connected number that it belongs to; the writer
-  // puts it behind. Both orders are settled: where a connected number is present, the reader's
-  // cursor stops there, and that decides what is read from elements that are out of order.
+  // writes it after. Both orders are settled: where a connected number is present, the reader's
+  // cursor stays right behind it, which decides what is read from elements that are out of order.
   static constexpr auto callRead = exchanged(call, 3);
 };
 

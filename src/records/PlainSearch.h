@@ -9,8 +9,8 @@
 
 namespace journal {
 
-// Each reads from a text that ends where the record ends, and sets every field that is read, so
-// that nothing is left of a parser's attempt.
+// Each reads from a text that ends where the record ends. Each sets every field that is read, so
+// nothing remains of a parser's attempt.
 
 /// One call.
 void searchCall(std::string_view text, RecordOps const& ops, void* call, FieldReader& reader);

@@ -1,5 +1,5 @@
-// What the encoder and the decoder need to know of a kind of log: the only code that knows the
-// types of records is behind these pointers, so there is one encoder and one decoder for all kinds.
+// What the encoder and the decoder need to know about a kind of log. Only the code behind these
+// pointers knows the types of records, so one encoder and one decoder serve all kinds.
 #ifndef JOURNAL_RECORDS_RECORDOPS_H
 #define JOURNAL_RECORDS_RECORDOPS_H
 

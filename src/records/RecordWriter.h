@@ -23,7 +23,7 @@ public:
   RecordWriter(RecordOps const& ops, std::string& out, std::size_t ahead = 0)
       : ops_(ops), appender_(out, ahead) {}
 
-  /// Whether a record has no more escaped texts than are kept.
+  /// Whether a record has no more escaped texts than the writer can keep.
   template <class Fields>
   static constexpr bool canWrite(Fields const& fields) {
     std::size_t escaped = 0;
@@ -71,7 +71,7 @@ private:
   /// A record's escaped texts, in the order of its fields.
   using Escaped = std::array<std::string_view, maxEscaped>;
 
-  /// What is written of a text member. `escaped` points to the next escaped text and moves on.
+  /// The text to write for a member. `escaped` points to the next escaped text and moves on.
   using NextEscaped = std::string_view const*;
   JOURNAL_INLINE static inline std::string_view
   textIn(void const* record, FieldDescriptor const& field, NextEscaped& escaped) {

@@ -14,10 +14,10 @@
 
 namespace journal {
 
-/// Reads forward and never searches. As long as a text holds nothing but the expected elements in
-/// their order, each at most once, no tag occurs anywhere else in it (a value read here holds no
-/// "<"), and every plain search would end where this parser found the element. At a mismatch, or at
-/// a NUL, the fallback continues.
+/// Reads forward and never searches. As long as a text holds only the expected elements in their
+/// order, each at most once, no tag occurs anywhere else in it, because a value read here holds no
+/// "<". So every plain search would find the element where this parser found it. At a mismatch, or
+/// at a NUL, the fallback continues.
 class StrictParser {
 public:
   explicit StrictParser(std::string_view text) : at_(text.data()), end_(at_ + text.size()) {}
@@ -36,8 +36,8 @@ public:
     return true;
   }
 
-  /// Reads an element that may be here: its value, absent when its begin tag is not here. Returns
-  /// false when another tag than its close tag follows the value.
+  /// Reads an optional element: its value, absent when its begin tag is not here. Returns false
+  /// when the close tag does not follow the value.
   JOURNAL_INLINE_ONCE inline bool take(std::string_view begin, std::string_view close,
                                        std::string_view& value) {
     if (left() < begin.size() + close.size() || !sameBytes(at_, begin.data(), begin.size())) {
@@ -59,10 +59,10 @@ private:
   char const* end_;
 };
 
-/// How far a parser came with the fields of a record.
+/// The fields of a record that a parser has not stored.
 struct FieldStates {
   FieldSet unseen = 0; ///< no begin tag so far
-  FieldSet open = 0;   ///< a begin tag, but another tag than the close tag behind the value
+  FieldSet open = 0;   ///< a begin tag, but the next "<" does not begin the close tag
 };
 
 /// Reads the fields of a record, in the order in which they are written. At a mismatch, stops
@@ -95,7 +95,7 @@ JOURNAL_INLINE inline bool parseFields(Fields fields, StrictParser& from, void* 
     } else {
       parser.goTo(raw.data() + raw.size());
       states.open = bit;
-      unseen |= ~(bit | (bit - 1)); // and none of the fields behind it
+      unseen |= ~(bit | (bit - 1)); // all fields after it
       return false;
     }
     return true;

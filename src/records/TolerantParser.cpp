@@ -59,8 +59,8 @@ public:
     return false;
   }
 
-  /// Whether an element has a tag of its own name in its value, so that only plain searches tell
-  /// what it holds.
+  /// Whether an element's value holds a "<", or a second begin tag closes an unclosed element. Only
+  /// plain searches then tell what the record holds.
   bool isNested() const { return isNested_; }
 
   /// Whether an element has no close tag so far.
@@ -147,7 +147,7 @@ bool isMisplaced(std::string_view tag, RecordOps const& ops, FieldSet entryUnsee
   return isStructure(tag) || FieldPass::begins(tag, ops.entryFields, entryUnseen);
 }
 
-/// The rest of a call, up to behind the Item's close tag.
+/// Reads the rest of a call and the Item's close tag.
 bool continueCall(char const* front, StrictParser& parser, RecordOps const& ops, void* call,
                   FieldReader& reader, FieldStates const& states, FieldSet entryUnseen) {
   FieldPass pass(parser, ops.callFields, call, reader, states);
@@ -166,7 +166,7 @@ bool continueCall(char const* front, StrictParser& parser, RecordOps const& ops,
   return false;
 }
 
-/// What is between calls, up to the next Item or the end of the LogList.
+/// Skips what is between calls, up to the next Item or the end of the LogList.
 bool skipToItem(StrictParser& parser, RecordOps const& ops, FieldSet entryUnseen) {
   for (std::string_view tag; findTag(parser, tag); passOver(parser, tag)) {
     if (tag == element<word::ITEM>.begin() || tag == element<word::LOGLIST>.close())
@@ -228,7 +228,7 @@ bool isStructure(std::string_view tag, Ending ending) {
              : isStructure(tag);
 }
 
-/// The rest of an entry, from the first tag that the strict parser did not expect.
+/// Reads the rest of an entry, from the first tag that the strict parser did not expect.
 bool continueEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* calls,
                    FieldReader& reader, FieldStates const& states, bool hasCalls, Ending ending) {
   FieldPass pass(parser, ops.entryFields, entry, reader, states);

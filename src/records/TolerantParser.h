@@ -15,7 +15,7 @@ namespace journal {
 /// One call, up to the end of the text.
 bool parseCall(StrictParser& parser, RecordOps const& ops, void* call, FieldReader& reader);
 
-/// Calls, from behind a LogList's begin tag to behind its close tag.
+/// Calls, from the end of a LogList's begin tag to the end of its close tag.
 /// @param entryUnseen the fields of the entry that are still to be found
 bool parseCalls(StrictParser& parser, RecordOps const& ops, void* calls, FieldReader& reader,
                 FieldSet entryUnseen);
@@ -23,8 +23,8 @@ bool parseCalls(StrictParser& parser, RecordOps const& ops, void* calls, FieldRe
 /// What ends an entry: its close tag, or the end of the text.
 enum class Ending { tag, text };
 
-/// One entry, its calls into `calls`, up to behind what ends it. If that is a tag, what was read
-/// holds no Handle.
+/// One entry, its calls into `calls`, including the tag that ends it, if any. With Ending::tag,
+/// what was read holds no Handle.
 bool parseEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* calls,
                 FieldReader& reader, Ending ending);
 

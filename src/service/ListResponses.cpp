@@ -17,7 +17,7 @@ namespace {
 // how much memory is reserved, so a relaxed maximum is enough.
 std::atomic<std::uint32_t> listResponseSizeHint{0};
 
-// Room for a log that grew by some entries since the longest answer.
+// Reserved beyond the longest answer, for a log that has grown by a few entries since.
 constexpr std::size_t roomToGrow = 4096;
 
 void raiseSizeHint(std::size_t size) {

@@ -24,7 +24,7 @@ constexpr std::size_t tagsSize(std::size_t nameSize) {
   return 2 * nameSize + sizeof "<></>" - 1;
 }
 
-/// Where the tags of an element start in `tags`. Not a constant for any other name.
+/// Where the tags of an element start in `tags`. For any other name it is no constant expression.
 constexpr std::size_t tagsOffset(std::string_view name) {
   std::size_t offset = 0;
   for (auto const* element = elementNames; *element != name; ++element)
@@ -65,7 +65,7 @@ public:
   constexpr Element(std::uint16_t offset, std::uint8_t nameSize)
       : offset_(offset), nameSize_(nameSize) {}
 
-  /// What an element is made of, for those who have to keep it in three bytes.
+  /// The parts of an element, for storing it in three bytes.
   constexpr std::uint16_t offset() const { return offset_; }
   constexpr std::uint8_t nameSize() const { return nameSize_; }
 

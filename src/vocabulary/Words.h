@@ -9,7 +9,7 @@ namespace journal::word {
 #define WORD(NAME, text) inline constexpr std::string_view NAME = text;
 #include "vocabulary/Words.def"
 
-// Words without a public constant of their own.
+// Words without a public constant.
 inline constexpr std::string_view HANDLE = "Handle";
 inline constexpr std::string_view SCHEMA_NAMED_BEGIN = "<Schema name=\"";
 inline constexpr std::string_view SCHEMA_NAMED_END = "\">";

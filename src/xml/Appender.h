@@ -13,7 +13,7 @@
 
 namespace journal {
 
-/// Copies a tag to `at`, which has room for it, and returns where it ends.
+/// Copies a tag to `at`, where it must fit, and returns where it ends.
 JOURNAL_INLINE inline char* putTag(char* at, std::string_view tag) {
   std::memcpy(at, tag.data(), tag.size());
   return at + tag.size();
@@ -25,7 +25,8 @@ JOURNAL_INLINE inline char* putText(char* at, std::string_view text) {
   return at + text.size();
 }
 
-/// As long as it exists, the text is longer than its contents, and only the appender may use it.
+/// While an appender exists, its text may be longer than the contents, and only the appender may
+/// use it.
 class Appender {
 public:
   /// @param out keeps its contents
@@ -38,8 +39,8 @@ public:
   /// Cuts off what was not written.
   ~Appender() { out_.resize(size_); }
 
-  /// A place behind the contents with room for `bound` characters. What is written there becomes
-  /// part of the text with endAt.
+  /// Returns the end of the contents, where `bound` characters may be written. endAt makes them
+  /// part of the contents.
   JOURNAL_INLINE inline char* room(std::size_t bound) {
     if (out_.size() - size_ < bound)
       out_.resize(size_ + std::max(bound, std::min(ahead_, out_.capacity() - size_)));

@@ -36,7 +36,7 @@ public:
     return content;
   }
 
-  /// The text from here on; another reader may have read a part of it.
+  /// The text from here on. Another reader may read a part of it; continueAt then sets the rest.
   std::string_view rest() const { return rest_; }
   void continueAt(std::string_view rest) { rest_ = rest; }
 

@@ -19,7 +19,7 @@ inline constexpr bool isAbsent(std::string_view value) {
   return value.data() == nullptr;
 }
 
-/// A raw value as its reader gets it: unescaped by the utility library, empty when it is absent.
+/// A raw value, unescaped by the utility library; empty when it is absent.
 std::string unescaped(std::string_view raw);
 
 /// A number as messages carry it: as a signed 32-bit decimal.

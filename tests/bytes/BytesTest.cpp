@@ -1,6 +1,6 @@
-// Comparing, scanning and copying bytes by words: for every size and position, compared with the
-// plain way. In the readers' fast path an error here would only send more texts to the fallback,
-// and no test of results would notice.
+// Comparing, searching and copying bytes by words, compared with plain loops for every size and
+// position. In the readers' fast path an error here might only send more texts to the fallback, and
+// no test of results would notice.
 #include <cstddef>
 #include <cstring>
 #include <string>

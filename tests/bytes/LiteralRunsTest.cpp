@@ -1,5 +1,5 @@
 // The literal runs that the strict parser compares at once. An error in them would only make
-// readers reach the same result more slowly, and no test of results would notice.
+// reading slower, and no test of results would notice.
 #include <cstddef>
 #include <iterator>
 #include <string>

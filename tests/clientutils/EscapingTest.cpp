@@ -121,7 +121,7 @@ TEST(Escaping, LeavesEveryOtherByteAlone) {
   }
 }
 
-// Letters of the entities' names alone make entities, and what is nearly one, frequent.
+// Using only the letters of the entities' names makes entities and near misses frequent.
 TEST(Escaping, RestoresAnyTextItHasWritten) {
   std::string everyByte;
   for (int byte = 0; byte < 256; ++byte)

@@ -1,4 +1,4 @@
-// A locale that writes 1234567 as "1.234.567", set for as long as the object lives.
+// A locale that writes 1234567 as "1.234.567", set while the object exists.
 #ifndef TESTS_CLIENTUTILS_GROUPINGLOCALE_H
 #define TESTS_CLIENTUTILS_GROUPINGLOCALE_H
 

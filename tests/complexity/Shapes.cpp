@@ -33,7 +33,7 @@ void fillKind(Input& input, std::size_t size) {
 
 std::vector<Shape> const& all() {
   static std::vector<Shape> const shapes = {
-      // What a log is made of, left open or empty or repeated.
+      // The elements of a log, left open or empty or repeated.
       {"unterminated-entries", "", "<Entry>" + entryFields, ""},
       {"entries-within-an-entry", "", "<Entry>", "</Entry>"},
       {"entries-unclosed-inside", "", "<Entry>" + entryFields + "<LogList><Item></Entry>", ""},

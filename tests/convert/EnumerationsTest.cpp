@@ -128,7 +128,7 @@ TEST(ConvertTargetLog, ReadsAnyOtherTextAsOutBusy) {
   expectFallbackMember(targetLog);
 }
 
-// On the heap, so that a sanitizer notices a read in front of the text.
+// On the heap, so that a sanitizer notices a read before the text.
 TEST(ConvertNumberType, LooksAtNothingInFrontOfAShortText) {
   for (std::string text : {"", "x"}) {
     text.reserve(1000);

@@ -1,5 +1,5 @@
 /* A plugin for qemu-user that counts executed instructions and prints their number when the program
- * ends. Debian packages no header for plugins, so what is used of it is declared here. */
+ * ends. Debian packages no header for plugins, so the declarations that it uses are here. */
 #include <inttypes.h>
 #include <stddef.h>
 #include <stdint.h>

@@ -23,7 +23,7 @@ using Library = JournalServiceHelper;
 #define JOURNAL_COMPARE_CALL(CALL, INPUT)                                                          \
   JOURNAL_COMPARE(#CALL, INPUT, Library::CALL, Reference::CALL)
 
-// Results with their outputs, which hold something before.
+// Results with their outputs, which are not empty before the call.
 
 template <class Operations, class Value>
 std::pair<long long, Value> atCursor(char const* text, std::string const& begin,
@@ -276,7 +276,7 @@ Difference compareReading(std::string const& text, Kind own, std::string const& 
         return found;
   if (auto found = compareMessage(text); !found.empty())
     return found;
-  // Filled outputs tell more: whether a field is set, and to what.
+  // Filled outputs show more: whether a field is set, and to what.
   auto const outputs = turn % 4 == 0 ? Outputs::fresh : Outputs::filled;
   if (auto found = compareDecoders(text, own, outputs); !found.empty())
     return found;

@@ -93,7 +93,7 @@ Difference compareEncoders(Item const& item, Notice const& notice);
 
 /// The reading operations on one text: those on whole messages, the decoders of its own kind, one
 /// decoder of another kind, and the extractors of some elements: those named in `about`, one more
-/// of the text and one of the vocabulary. Which one it is changes from text to text.
+/// of the text and one of the vocabulary. The choice changes from text to text.
 /// @param about the part of the text that an edit has changed
 /// @param turn the number of the text
 Difference compareReading(std::string const& text, Kind own, std::string const& about,

@@ -26,7 +26,7 @@ public:
   std::uint64_t countPairs(std::uint64_t tokens) const;
 
   /// Makes one edit, or a pair of edits.
-  /// @param[in,out] touched what was taken out and put in, and its neighbours, are appended
+  /// @param[in,out] touched the removed, inserted and adjacent tokens are appended
   void apply(std::uint64_t edit, Tokens& tokens, std::string& touched) const;
   void applyPair(std::uint64_t pair, Tokens& tokens, std::string& touched) const;
 

@@ -1,4 +1,4 @@
-// A utility library that marks what passes through it, so that tests see which texts do.
+// A fake utility library that marks the texts that pass through it, so that tests can see which do.
 //
 // Texts in square brackets are not marked: they are unescaped to what is inside. The utility
 // library decides what unescaping returns, which may be a word of the messages.

@@ -1,7 +1,7 @@
 // The records that the golden messages of this folder carry, typed by hand.
 //
-// What an encoder is given and what a decoder gives back are not the same: some members do not
-// travel both ways, and texts that are copied raw come back unescaped.
+// A decoder does not give back exactly what an encoder was given: some members are not read back,
+// and texts that are copied raw come back unescaped.
 #ifndef TESTS_GOLDEN_GOLDENRECORDS_H
 #define TESTS_GOLDEN_GOLDENRECORDS_H
 

@@ -21,9 +21,9 @@ using allocations::countedIn;
 
 constexpr std::size_t sizes[] = {1, 100, 1000};
 
-// The record lists are not the only ones that grow while a log is read: the deque's table of blocks
-// doubles as entries are added, where a copy allocates it at once (9 times for 1000 entries of two
-// to a block), and one text buffer grows with the longest raw value.
+// What grows while a log is read, besides the records: the deque's table of blocks, which a copy
+// allocates at once, doubles as entries are added (9 times for 1000 entries of two to a block), and
+// one text buffer grows with the longest raw value.
 constexpr long GROWTH = 24;
 
 template <class Item>
@@ -35,7 +35,7 @@ protected:
     return countedIn([&log] { Log const copy = log; });
   }
 
-  // What the utility library allocates for the names that go through it when a log is written.
+  // What the utility library allocates for the names that it escapes when a log is written.
   static long inEscapingNames(Log const& log) {
     auto const inEscaping = [](std::string const& name) {
       return countedIn([&name] { ClientUtils::escapeXMLString(name); });
@@ -109,7 +109,7 @@ TYPED_TEST(AllocationCount, OfEncodingIsOneBesidesEscapedNames) {
   }
 }
 
-// The counting itself.
+// Checks the counting itself.
 
 TEST(Allocations, AreCounted) {
   auto const live = allocations::live();

@@ -13,7 +13,7 @@ long live();
 
 enum class Failing { once, fromThenOn };
 
-/// While it lives, the nth allocation fails, the first being 1; or all from the nth on.
+/// While it exists, the nth allocation fails, counted from 1; or all from the nth on.
 class Failure {
 public:
   Failure(long nth, Failing failing);

@@ -212,8 +212,8 @@ TEST_F(FailingMemory, EachAllocationOfEachOperation) {
             << didNotAllocate.size() << " allocate nothing\n";
 }
 
-// A reader discards what a field held before it makes the new text. When there is no memory for
-// that, the field must be usable all the same.
+// A reader discards a field's old text before it makes the new one. When there is no memory for the
+// new one, the field must still be usable.
 TEST(FailingMemoryOfOneRecord, LeavesFieldsThatHeldLongTextsUsable) {
   std::string const before(100, 'b');
   std::string const text = "<Number>" + std::string(200, 'n') + "</Number><DeflectName>" +

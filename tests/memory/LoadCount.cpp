@@ -1,5 +1,5 @@
-// Counts the allocations that loading the libraries makes: one per constant that is too long to be
-// held in the string itself, and none besides. Nothing else in this program allocates before main.
+// Counts the allocations that loading the libraries makes: one per constant that is too long for
+// the string object itself, and no others. Nothing else in this program allocates before main.
 #include <cstdio>
 #include <string>
 

@@ -1,4 +1,4 @@
-// Inputs that make every operation allocate that allocates at all.
+// Inputs with which every operation that can allocate does allocate.
 #include "memory/Scenes.h"
 
 #include <string>
@@ -54,7 +54,7 @@ Input base() {
   return input;
 }
 
-// Texts that are copied raw would damage a message with their markup.
+// In texts that are copied raw, markup would damage the message.
 std::string withoutMarkup(std::string text) {
   std::string const markup = "<markup>";
   for (auto at = text.find(markup); at != std::string::npos; at = text.find(markup))

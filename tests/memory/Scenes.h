@@ -1,4 +1,4 @@
-// Inputs that make every operation allocate that allocates at all: long texts, markup, several
+// Inputs with which every operation that can allocate does allocate: long texts, markup, several
 // entries and calls; in order and damaged.
 #ifndef TESTS_MEMORY_SCENES_H
 #define TESTS_MEMORY_SCENES_H

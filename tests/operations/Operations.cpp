@@ -1,4 +1,4 @@
-// The table of operations, each row made from the operation's parameters.
+// The table of operations. Each row is made from the types of the operation's parameters.
 #include "operations/Operations.h"
 
 #include <cstddef>

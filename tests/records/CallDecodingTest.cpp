@@ -45,7 +45,7 @@ TYPED_TEST(CallDecoding, TheTextIsUnescaped) {
             "<1> &amp; \"' & &x;");
 }
 
-// Texts of every length, one after the other in one list, so that a trace of one in the next shows.
+// Texts of every length, one after the other in one list, so that remains of one in the next show.
 TYPED_TEST(CallDecoding, TextsOfEveryLength) {
   typename TypeParam::InfoList expected;
   std::string text = "<LogList>";
@@ -96,7 +96,7 @@ TYPED_TEST(CallDecoding, AnEmptyElementIsAnEmptyText) {
   EXPECT_EQ(call.numberType, NumberType::NO_ICON);
 }
 
-// The names that are not kept still move the cursor.
+// The discarded names still move the cursor.
 TEST(DecodedCall, NamesPassedOverMoveTheCursor) {
   std::string const nested = "<ConnectedSurname><TimeDate>in</TimeDate></ConnectedSurname>"
                              "<TimeDate>out</TimeDate>";
@@ -115,8 +115,8 @@ TEST(DecodedCall, ElementsThatAKindDoesNotReadAreIgnored) {
             Forwarded::Info());
 }
 
-// The writer puts ConnectedNumber in front of ConnectedNumberPriority, which is read first. The
-// cursor stays in front of both; from ConnectedNumberType on it is stuck.
+// ConnectedNumberPriority is written after ConnectedNumber, but read first. Reading it leaves the
+// cursor before ConnectedNumber; reading that moves the cursor to the priority, where it stays.
 TEST(DecodedDialledCall, TheCursorIsStuckBehindAConnectedNumber) {
   std::string const front = "<Number>1</Number><NumberType>MOBILE</NumberType>";
   std::string const number = "<ConnectedNumber>2</ConnectedNumber>";

@@ -71,7 +71,7 @@ TYPED_TEST(CallListDecoding, TextsThatHoldCalls) {
       {"<LogList><Item><Number>1</Number></Item><Item></Item><Item><Number>2</Number></Item>"
        "</LogList>",
        "[1][2]"},
-      // An item without close tag ends the list; the items in front of it stay.
+      // An item without close tag ends the list; the items before it stay.
       {"<LogList><Item><Number>1</Number></Item><Item><Number>2</Number></LogList>", "[1]"},
       {"<LogList><Item><Number>1</Number></Item><Item></LogList></Item>", "[1]"},
       {"<LogList><Item><Number>1</Number></Item><Item><Number>2</Number></LogList></Item>", "[1]"},

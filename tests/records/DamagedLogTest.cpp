@@ -84,7 +84,7 @@ TYPED_TEST(DamagedLog, ANulAtEveryPositionCutsTheText) {
 }
 
 // A byte of a log replaced: whatever is read, both overloads agree (see read), the text is not
-// changed, and the damage does not affect the entries in front of it.
+// changed, and the damage does not affect the entries before it.
 TYPED_TEST(DamagedLog, AByteReplacedLeavesTheEntriesInFrontOfItAlone) {
   std::string const whole = this->text(false);
   auto const all = TypeParam::decodedLog();

@@ -1,8 +1,8 @@
-// Every member of every record, taken from the one list of members: what becomes of it on its way
-// through a message, and what its element is called.
+// Every member of every record, taken from the list of members: how it is written and read back,
+// and what its element is called.
 //
-// Nobody adds a test for a new member. One that the encoder or the decoder lacks, or whose row in
-// the list is wrong, fails here.
+// A new member needs no new test. If the encoder or the decoder lacks it, or its row in the list is
+// wrong, these tests fail.
 #include <algorithm>
 #include <string>
 #include <type_traits>
@@ -32,7 +32,7 @@ std::string elementOf(Member const& member, ValueOf<Member> const& value) {
     return kinds::tagged(element, records::spelled(value));
 }
 
-// Each element on a line of its own, which the reader's fast path does not accept.
+// Each element on a separate line, which the reader's fast path does not accept.
 std::string onLines(std::string text) {
   for (auto at = text.find("><"); at != std::string::npos; at = text.find("><", at))
     text.insert(++at, "\n");
@@ -53,7 +53,7 @@ protected:
     return item;
   }
 
-  // What all readers of an entry make of a record that was written.
+  // Checks what all readers of an entry read from a record that was written.
   template <class Record>
   static void expectReadBack(Record const& record) {
     auto const expected = members::asRead(entryWith(record));
@@ -154,7 +154,7 @@ std::vector<std::string> namesOf() {
   return names;
 }
 
-// Flags and enumerations are read from their exact texts alone, whatever is nearly one.
+// Flags and enumerations are read from their exact texts alone; near misses give the default.
 TYPED_TEST(EveryMember, ThatIsNoTextIsReadFromItsExactTexts) {
   this->forEach([](auto const& member) {
     using Member = std::decay_t<decltype(member)>;
@@ -178,7 +178,7 @@ TYPED_TEST(EveryMember, ThatIsNoTextIsReadFromItsExactTexts) {
   });
 }
 
-// The element's name with its first letter lowered; three members are called otherwise.
+// The element's name with its first letter in lower case; three members have other names.
 std::string memberNameFor(std::string const& element) {
   if (element == "JSGroupBy")
     return "jsGroupBy";

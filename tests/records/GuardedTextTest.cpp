@@ -1,5 +1,5 @@
-// Texts between inaccessible pages: a read in front of a text or past its NUL ends the program, on
-// any machine and without a sanitizer.
+// Texts between inaccessible pages: a read before a text or past its NUL ends the program, on any
+// machine and without a sanitizer.
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -75,7 +75,7 @@ TYPED_TEST(GuardedText, IsReadFromItsFirstCharacterToItsNul) {
     this->read(guarded.beforeGuard(body.substr(cut)));
     this->read(guarded.beforeGuard(body.substr(0, cut)));
   }
-  // Shorter than the usual value, which the reader compares first.
+  // Shorter than the expected value, which the reader compares first.
   this->read(guarded.beforeGuard("<ConnectedNumberType></ConnectedNumberType>"));
 }
 

@@ -32,7 +32,7 @@ protected:
     return KindType::body(item);
   }
 
-  // The same with what most calls hold: a reader looks for such elements several at a time.
+  // The same with the expected values: a reader compares several such elements at once.
   static std::string usualBody() {
     using Info = typename KindType::Info;
     auto item = records::otherRecord<typename KindType::Item>();
@@ -84,8 +84,8 @@ TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
       }
 }
 
-// Each element of a usual call missing, repeated, in another's place, and preceded by one that such
-// a call does not have.
+// A call with the expected values: each element missing, repeated, in another's place, and preceded
+// by one that such a call does not have.
 TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverElementIsElsewhere) {
   auto const body = this->usualBody();
   auto const item = body.find("<Item>") + 6;

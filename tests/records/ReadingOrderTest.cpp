@@ -48,8 +48,8 @@ std::string joined(Elements const& elements, std::string const& between = "") {
   return text;
 }
 
-// A dialled call as its reader takes it: the priority in front of the connected number, and the
-// name's presentation between two begin tags.
+// A dialled call in the reader's order: the priority before the connected number, and the name's
+// presentation between two begin tags.
 Elements inReadingOrder(Elements elements) {
   auto const number = std::find_if(elements.begin(), elements.end(), [](auto const& element) {
     return nameOf(element) == "ConnectedNumber";
@@ -167,8 +167,8 @@ TYPED_TEST(ReadingOrder, OneElementOfACallInsideAnother) {
       }
 }
 
-// A cursor that fell behind, or ran ahead, on the way through the elements in front finds the inner
-// element when it must not, or the other way round.
+// If the cursor is too far back or too far on after the elements before, the inner element is found
+// when it must not be, or not found when it must.
 TYPED_TEST(ReadingOrder, OneElementOfACallInsideAnotherBehindTheElementsInFront) {
   for (auto const& order : this->callOrders())
     for (std::size_t outer = 1; outer < order.size(); ++outer) {
@@ -183,7 +183,7 @@ TYPED_TEST(ReadingOrder, OneElementOfACallInsideAnotherBehindTheElementsInFront)
     }
 }
 
-// An element without its close tag is missing, and the cursor stays in front of it.
+// An element without its close tag is missing, and the cursor stays before it.
 TYPED_TEST(ReadingOrder, AnElementOfACallWithoutCloseTag) {
   for (auto const& order : this->callOrders())
     for (std::size_t open = 0; open < order.size(); ++open) {

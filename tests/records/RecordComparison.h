@@ -24,7 +24,7 @@ std::string spelled(Value const& value) {
 
 } // namespace records
 
-// The records live in the global namespace, so == and << are looked up there.
+// The records are in the global namespace, so == and << are looked up there.
 
 template <class Record, std::enable_if_t<members::isRecord<Record>, int> = 0>
 bool operator==(Record const& left, Record const& right) {

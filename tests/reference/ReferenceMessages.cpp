@@ -152,7 +152,7 @@ JournalServiceHelper::MethodCode Reference::getMethodFromXMLMsg(std::string cons
   if (p0 == std::string::npos || p2 == std::string::npos) {
     return JournalServiceHelper::UNKNOWN_METHOD;
   }
-  // With the close tag in front the difference wraps, and the rest of the message is searched.
+  // With the close tag first the difference wraps, and the rest of the message is searched.
   std::string const searched = message.substr(p0, p2 - p0);
   struct {
     char const* tag;

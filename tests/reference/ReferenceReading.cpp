@@ -61,7 +61,7 @@ std::vector<std::string> pieces(std::string const& text, std::string const& begi
   return found;
 }
 
-// The Items of the first LogList; none when that is missing or not closed.
+// The Items of the first LogList; none when it is missing or not closed.
 std::vector<std::string> itemsOf(char const* xml) {
   std::string const text = Reference::untilNul(xml);
   std::size_t const beginAt = text.find("<LogList>");

@@ -13,8 +13,8 @@
 namespace operations {
 
 /// Takes numbers as 32 bits, the lowest byte first, so that it depends neither on word size nor on
-/// byte order; and texts and lists with their length in front, so that no two sequences of values
-/// are fed alike.
+/// byte order. Takes texts and lists with their length first, so that different sequences of values
+/// give different bytes.
 class ResultHash {
 public:
   std::uint64_t value() const { return value_; }

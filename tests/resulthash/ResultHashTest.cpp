@@ -1,8 +1,8 @@
 // One hash over the results of all operations that work on no records, for a fixed set of inputs:
 // the same on every machine, whatever its word size and byte order.
 //
-// The operations on records are made of these. Each machine compares them with the reference, which
-// is made of its own such operations; and each reads and writes the golden messages.
+// The operations on records build on these. On each machine the tests compare them with the
+// reference, which has its own such operations, and with the golden messages.
 #include <cstdint>
 #include <string>
 
@@ -17,7 +17,7 @@ using operations::Outputs;
 using operations::Random;
 using operations::ResultHash;
 
-// A change of this value is a change of behaviour, and has to be one on purpose.
+// A change of this value is a change of behaviour, and has to be intended.
 constexpr std::uint64_t EXPECTED = 0x199cfede0c42f889U;
 
 constexpr int ROUNDS = 5000;
@@ -111,7 +111,7 @@ std::uint64_t hashOf(Value const& value) {
   return hash.value();
 }
 
-// Known values of FNV-1a over the bytes that each should be fed as.
+// Known values of FNV-1a over the bytes that represent each value.
 TEST(ResultHash, IsFedFromTheLowestByteOn) {
   EXPECT_EQ(ResultHash().value(), 0xcbf29ce484222325U);
   EXPECT_EQ(hashOf(std::int32_t{'a'}), 0xac804b820e4fe984U); // 61 00 00 00

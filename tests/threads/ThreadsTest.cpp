@@ -1,5 +1,5 @@
 // Many threads at once: every operation on the same texts and records, and list answers of growing
-// length. Useful with ThreadSanitizer above all.
+// length. Most useful with ThreadSanitizer.
 #include <algorithm>
 #include <atomic>
 #include <cstddef>

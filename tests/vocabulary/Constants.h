@@ -212,8 +212,8 @@ inline std::string_view insideTag(std::string_view tag) {
   return tag.substr(1, tag.size() - 2);
 }
 
-/// Every element name of the messages: those of the begin tags, those that have no tag of their
-/// own, and the empty name.
+/// Every element name of the messages: those of the begin tags, those without constants for their
+/// tags, and the empty name.
 inline std::vector<std::string> const& elementNames() {
   static auto const names = [] {
     std::vector<std::string> all;

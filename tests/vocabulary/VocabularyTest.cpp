@@ -46,7 +46,7 @@ TEST(Vocabulary, IsPrintableAscii) {
       EXPECT_TRUE(c >= ' ' && c <= '~') << word.literal;
 }
 
-// Names that a reader would expect to be spelled alike, and are not.
+// Names that one would expect to be spelled alike, but are not.
 TEST(Vocabulary, KeepsTheDifferencesBetweenSimilarWords) {
   EXPECT_EQ("Firstname", J::FIRSTNAME);
   EXPECT_EQ("ConnectedFirstName", J::CONNECTEDFIRSTNAME);

@@ -42,7 +42,7 @@ TEST(AddXMLHeaderFooter, WrapsALongBody) {
             message);
 }
 
-// What is wrapped makes no difference.
+// Any text can be wrapped, a finished message too.
 TEST(AddXMLHeaderFooter, WrapsAFinishedMessageOnceMore) {
   std::string message = "x";
   J::addXMLHeaderFooter(message, "");
