@@ -1,9 +1,11 @@
-// Damages messages, as a faulty or an older writer might.
+// Damages messages, as a faulty, an older or a newer writer might, or a faulty line.
 #include "Damage.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "Random.h"
 
@@ -13,12 +15,15 @@ namespace {
 
 using Pieces = std::vector<std::string>; // begin and close tags of containers, whole leaf elements
 
+char const* const UNKNOWN[] = {"<Line>2</Line>", "<CostCentre>north</CostCentre>",
+                               "<RingingTime>00:00:12</RingingTime>"};
+
 bool isLeaf(std::string const& piece) {
   return piece.find('<', 1) != std::string::npos;
 }
 
-std::string_view nameOf(std::string const& leaf) {
-  return std::string_view(leaf).substr(1, leaf.find('>') - 1);
+bool isClose(std::string const& tag) {
+  return tag[1] == '/';
 }
 
 // A begin tag directly followed by its close tag makes a leaf; any other tag is a separate piece.
@@ -36,61 +41,125 @@ Pieces piecesOf(std::string_view text) {
   return pieces;
 }
 
-void remove(Pieces& record, std::vector<std::string_view> const& names, Random& random) {
-  std::vector<std::size_t> candidates;
-  for (std::size_t at = 0; at < record.size(); ++at)
-    if (std::find(names.begin(), names.end(), nameOf(record[at])) != names.end())
-      candidates.push_back(at);
-  if (!candidates.empty())
-    record[candidates[random.below(candidates.size())]].clear();
+std::string lineBreak(std::size_t depth) {
+  return "\n" + std::string(2 * depth, ' ');
 }
 
-void damageRecord(Pieces& record, Damage damage, std::vector<std::string_view> const& names,
-                  Random& random) {
+void addSpaces(std::string& piece, Random& random) {
+  if (isLeaf(piece) && random.percent(10))
+    piece.insert(piece.rfind('<'), " ");
+  if (random.percent(10))
+    piece.insert(0, " ");
+}
+
+void addUnknown(std::string& leaf, Random& random) {
+  if (random.percent(10))
+    leaf += random.oneOf(UNKNOWN);
+}
+
+void swapTwo(Pieces& record, Random& random) {
   if (record.size() < 2)
     return;
   std::size_t const at = random.below(record.size() - 1);
+  std::swap(record[at], record[at + 1]);
+}
+
+void repeatOne(Pieces& record, Random& random) {
+  std::string& leaf = record[random.below(record.size())];
+  leaf += leaf;
+}
+
+// One of the damages in front of the mixed one, or none.
+Damage oneOfMixed(Random& random) {
+  constexpr auto none = static_cast<std::size_t>(Damage::mixed);
+  std::size_t const one = random.below(none + 1);
+  return one == none ? Damage::cut : static_cast<Damage>(one);
+}
+
+/// @param record not empty
+void damageRecord(Pieces& record, Damage damage, std::size_t depth, Random& random) {
+  auto const forEachLeaf = [&record](auto change) {
+    std::for_each(record.begin(), record.end(), change);
+  };
   switch (damage) {
-  case Damage::newlines:
-    break; // goes between the pieces, not into a record
+  case Damage::spaces:
+    return forEachLeaf([&](std::string& leaf) { addSpaces(leaf, random); });
+  case Damage::indented:
+    return forEachLeaf([&](std::string& leaf) { leaf.insert(0, lineBreak(depth)); });
+  case Damage::extended:
+    return record.push_back(random.oneOf(UNKNOWN));
+  case Damage::unknown:
+    return forEachLeaf([&](std::string& leaf) { addUnknown(leaf, random); });
   case Damage::swapped:
-    std::swap(record[at], record[at + 1]);
-    break;
-  case Damage::missing:
-    remove(record, names, random);
-    break;
+    return swapTwo(record, random);
   case Damage::repeated:
-    record[at] += record[at];
-    break;
+    return repeatOne(record, random);
+  case Damage::reversed:
+    return std::reverse(record.begin(), record.end());
+  case Damage::mixed:
+    return damageRecord(record, oneOfMixed(random), depth, random);
+  case Damage::cut:
+    return; // not by record
   }
+}
+
+// Goes between the records.
+void damageTag(std::string& tag, Damage damage, std::size_t depth, Random& random) {
+  if (damage == Damage::spaces)
+    addSpaces(tag, random);
+  else if (damage == Damage::indented)
+    tag.insert(0, lineBreak(depth));
+}
+
+std::string withDamagedRecords(std::string_view body, Damage damage, Random& random) {
+  std::string out;
+  Pieces record;
+  std::size_t depth = 0;
+  auto const endRecord = [&] {
+    if (!record.empty())
+      damageRecord(record, damage, depth, random);
+    for (std::string const& leaf : record)
+      out += leaf;
+    record.clear();
+  };
+  for (std::string& piece : piecesOf(body)) {
+    if (isLeaf(piece)) {
+      record.push_back(std::move(piece));
+      continue;
+    }
+    endRecord();
+    bool const closes = isClose(piece);
+    depth -= closes ? 1 : 0;
+    damageTag(piece, damage, depth, random);
+    depth += closes ? 0 : 1;
+    out += piece;
+  }
+  endRecord();
+  return out;
+}
+
+std::string withBytesCut(std::string_view body, Random& random) {
+  std::string out;
+  for (char const byte : body)
+    if (random.below(1000) != 0)
+      out += byte;
+  return out;
 }
 
 } // namespace
 
-std::string damaged(std::string const& message, Damage damage,
-                    std::vector<std::string_view> const& alwaysWritten) {
+std::size_t bodyOf(std::string const& message) {
   static constexpr std::string_view METHOD_CLOSE = "</Method>";
-  std::size_t const bodyAt = message.find(METHOD_CLOSE) + METHOD_CLOSE.size();
-  std::string const between = damage == Damage::newlines ? "\n" : "";
+  return message.find(METHOD_CLOSE) + METHOD_CLOSE.size();
+}
+
+std::string damaged(std::string const& message, Damage damage) {
+  std::size_t const bodyAt = bodyOf(message);
+  auto const body = std::string_view(message).substr(bodyAt);
   Random random(7);
-  std::string out = message.substr(0, bodyAt);
-  Pieces record;
-  auto const endRecord = [&] {
-    damageRecord(record, damage, alwaysWritten, random);
-    for (std::string const& leaf : record)
-      out += leaf + between;
-    record.clear();
-  };
-  for (std::string const& piece : piecesOf(std::string_view(message).substr(bodyAt))) {
-    if (isLeaf(piece)) {
-      record.push_back(piece);
-      continue;
-    }
-    endRecord();
-    out += piece + between;
-  }
-  endRecord();
-  return out;
+  return message.substr(0, bodyAt) + (damage == Damage::cut
+                                          ? withBytesCut(body, random)
+                                          : withDamagedRecords(body, damage, random));
 }
 
 } // namespace bench

@@ -1,4 +1,6 @@
-// Decoding a list response into records: the library, the oracle, the bound and the peers.
+// Decoding a list response into records: the library, the bound and the peers.
+#include <string>
+
 #include "Own.h"
 #include "Samples.h"
 #include "Timing.h"
@@ -7,6 +9,7 @@
 #include "peers/ProtobufPeer.h"
 #include "peers/PugixmlPeer.h"
 #include "peers/RapidXmlPeer.h"
+#include "peers/StrstrPeer.h"
 #include "peers/TinyXml2Peer.h"
 
 namespace bench {
@@ -15,7 +18,7 @@ namespace {
 
 /// @param decoderOf makes the decoder of a sample, outside the timing
 template <class Kind, Destruction destruction = Destruction::counted, class DecoderOf>
-void add(char const* who, std::size_t entries, DecoderOf decoderOf) {
+void add(std::string const& who, std::size_t entries, DecoderOf decoderOf) {
   auto const* const what = destruction == Destruction::counted ? "decode" : "decode-alone";
   std::string const name = nameOf(what, Kind::name, entries, who);
   registerTiming(name, entries, [=](benchmark::State& state) {
@@ -37,13 +40,16 @@ void addKind(std::size_t size) {
   add<Kind>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
   add<Kind>("handle", size, [](S const& s) { return LibraryHandleDecoder<Kind>{s.message}; });
   add<Kind>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });
-  if (size == COMPARED_SIZE || size == LARGE) { // the sizes that the growth figures compare
+  if (size == LARGE) {
     constexpr auto leftOut = Destruction::leftOut;
     add<Kind, leftOut>("library", size, [](S const& s) { return LibraryDecoder<Kind>{s.message}; });
     add<Kind, leftOut>("copy", size, [](S const& s) { return DeepCopy<Kind>{s.decoded}; });
   }
-  add<Kind>("oracle", size, [](S const& s) { return OracleDecoder<Kind>{s.message}; });
-  add<Kind>("rapidxml", size, [](S const& s) { return RapidXmlDecoder<Kind>(s.document); });
+  forEachRapidXmlCopy([size](auto copy) {
+    add<Kind>("rapidxml@" + std::to_string(copy), size,
+              [](S const& s) { return RapidXmlDecoder<Kind, decltype(copy)::value>(s.document); });
+  });
+  add<Kind>("strstr", size, [](S const& s) { return StrstrDecoder<Kind>(s.message); });
   add<Kind>("pugixml", size, [](S const& s) { return PugixmlDecoder<Kind>(s.document); });
   add<Kind>("expat", size, [](S const& s) { return ExpatDecoder<Kind>(s.document); });
   add<Kind>("tinyxml2", size, [](S const& s) { return TinyXml2Decoder<Kind>(s.document); });
@@ -53,6 +59,8 @@ void addKind(std::size_t size) {
             [](S const& s) { return ProtobufDecoder<Kind, protobuf::OnArena>(s.log); });
   add<Kind>("protobuf-kept", size,
             [](S const& s) { return ProtobufDecoder<Kind, protobuf::Kept>(s.log); });
+  add<Kind>("protobuf-arena-kept", size,
+            [](S const& s) { return ProtobufDecoder<Kind, protobuf::KeptOnArena>(s.log); });
 }
 
 } // namespace

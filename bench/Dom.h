@@ -1,8 +1,8 @@
 // Fills records from the tree that a parser has built; one walk for all parsers.
 //
 // A Node is a pointer-like adaptor: it is false after the last sibling and has is(name), text(),
-// next() and child(). The walk expects the elements in the order of the document, which is the
-// fastest way through a tree: one comparison for each. Elements out of order are found by name.
+// next(), child() and ==. The walk expects the elements in the order of a message, which is the
+// fastest way through a tree: one comparison for each. At an element out of order it starts over.
 #ifndef BENCH_DOM_H
 #define BENCH_DOM_H
 
@@ -11,15 +11,8 @@
 
 namespace bench::dom {
 
-template <class Node, class Record>
-void assignByName(Node node, Record& record) {
-  forEachElement<Record>([&](auto const& member) {
-    if (isStored(member) && node.is(member.element))
-      assign(member.in(record), node.text());
-  });
-}
-
-/// @return the first sibling that is not the expected element
+/// Assigns the elements from node on that come in order.
+/// @return the first that does not
 template <class Node, class Record>
 Node readInOrder(Node node, Record& record) {
   forEachElement<Record>([&](auto const& member) {
@@ -32,21 +25,25 @@ Node readInOrder(Node node, Record& record) {
   return node;
 }
 
-template <class Node, class Call>
-void readCall(Node first, Call& call) {
-  for (Node node = readInOrder(first, call); node; node = node.next())
-    assignByName(node, call);
+/// Assigns the elements from node on, and starts over where one is out of order. A node that still
+/// is the first then is none of the record's own elements, and goes to other(node).
+template <class Node, class Record, class Other>
+void readRecord(Node node, Record& record, Other other) {
+  while (node) {
+    Node const next = readInOrder(node, record);
+    if (next == node)
+      other(node);
+    node = next == node ? node.next() : next;
+  }
 }
 
 template <class Node, class Item>
 void readEntry(Node first, Item& item) {
-  for (Node node = readInOrder(first, item); node; node = node.next()) {
-    if (node.is("LogList"))
-      for (Node call = node.child(); call; call = call.next())
-        readCall(call.child(), item.callInfoList.emplace_back());
-    else
-      assignByName(node, item);
-  }
+  readRecord(first, item, [&](Node other) {
+    if (other.is("LogList"))
+      for (Node call = other.child(); call; call = call.next())
+        readRecord(call.child(), item.callInfoList.emplace_back(), [](Node) {});
+  });
 }
 
 template <class Node, class Log>

@@ -1,4 +1,4 @@
-// Encoding records into a list response: the library, the oracle, the bound and the peers.
+// Encoding records into a list response: the library, the bound and the peers.
 #include <string>
 #include <string_view>
 
@@ -46,8 +46,6 @@ void addKind(std::size_t size) {
   add<Kind>(
       "memcpy", size, [](S const& s) { return CopyOfMessage<Kind>(s.message); }, sameText);
   add<Kind>(
-      "oracle", size, [](S const& s) { return OracleEncoder<Kind>{s.log}; }, sameText);
-  add<Kind>(
       "pugixml", size, [](S const& s) { return PugixmlEncoder<Kind>(s.log); }, sameDocument);
   add<Kind>(
       "libxml2", size, [](S const& s) { return LibxmlEncoder<Kind>(s.log); }, sameDocument);
@@ -60,6 +58,9 @@ void addKind(std::size_t size) {
   add<Kind>(
       "protobuf-kept", size,
       [](S const& s) { return ProtobufEncoder<Kind, protobuf::Kept>(s.log); }, sameBinary);
+  add<Kind>(
+      "protobuf-arena-kept", size,
+      [](S const& s) { return ProtobufEncoder<Kind, protobuf::KeptOnArena>(s.log); }, sameBinary);
 }
 
 } // namespace

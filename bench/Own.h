@@ -53,12 +53,6 @@ struct LibraryEncoder {
   typename Kind::Log const& log;
 };
 
-template <class Kind>
-struct OracleEncoder {
-  std::string encode() { return Kind::oracleEncode(log, 7); }
-  typename Kind::Log const& log;
-};
-
 /// The lower bound of encoding: any encoder has to store the bytes. The string keeps its memory, so
 /// this is a memcpy.
 template <class Kind>

@@ -8,9 +8,9 @@ from figures import DAMAGES, KINDS, NAMES, SIZES
 COLOURS = {
     "missed": "#1b6ca8", "dialled": "#e08e0b", "received": "#3c8d5a", "forwarded": "#8a5aa8",
     "copy": "#999999", "memcpy": "#999999", "library": "#c0392b", "protobuf": "#1b6ca8",
-    "protobuf-arena": "#5fa3d3", "protobuf-kept": "#a3cdea", "rapidxml": "#3c8d5a",
+    "protobuf-arena": "#5fa3d3", "protobuf-kept": "#a3cdea", "protobuf-arena-kept": "#7f9fb5",
+    "strstr": "#444444", "rapidxml": "#3c8d5a",
     "pugixml": "#e08e0b", "libxml2": "#8a5aa8", "expat": "#8a5aa8", "tinyxml2": "#6b4f3a",
-    "oracle": "#444444",
 }
 
 TITLES = {"decode": "Decoding", "encode": "Encoding"}
@@ -88,10 +88,10 @@ def over_sizes(run, path, what):
 
 
 def damages(run, path):
-    rows = [[damage, *(run.times[f"{damage}/{kind}/100/oracle"]
-                       / run.times[f"{damage}/{kind}/100/library"] for kind in KINDS)]
-            for damage in DAMAGES]
-    bars(path, "Damaged texts, 100 entries", "plain oracle / this library", rows, log=False)
+    rows = [[title, *(run.times[f"{damage}/{kind}/100/strstr"]
+                      / run.times[f"{damage}/{kind}/100/library"] for kind in KINDS)]
+            for damage, title in DAMAGES.items()]
+    bars(path, "Damaged texts, 100 entries", "strstr / this library", rows, log=False)
 
 
 def draw(run, folder):

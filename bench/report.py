@@ -17,7 +17,7 @@ import tables
 
 
 def write_results(run, path):
-    head, *rows = tables.ratios(run)
+    head, *rows = tables.ratios(run, figures.FIGURES + figures.DAMAGED_FIGURES)
     ratios = [dict(zip(head, row)) for row in rows]
     with open(path, "w", encoding="utf-8") as file:
         json.dump({"context": run.context, "ratios": ratios, "nanoseconds": run.times}, file,
@@ -51,11 +51,13 @@ def update_document(run, docs):
         text = file.read()
     text = replace_sections(text, {
         "machine": machine(run),
-        "ratios": tables.as_markdown(tables.ratios(run)),
+        "ratios": tables.as_markdown(tables.ratios(run, figures.FIGURES)),
         "decode": tables.as_markdown(tables.times(run, "decode")),
         "encode": tables.as_markdown(tables.times(run, "encode")),
         "decode per byte": tables.as_markdown(tables.per_byte(run, "decode")),
         "encode per byte": tables.as_markdown(tables.per_byte(run, "encode")),
+        "damaged ratios": tables.as_markdown(tables.ratios(run, figures.DAMAGED_FIGURES)),
+        "damaged": tables.as_markdown(tables.damages(run)),
         "small": tables.as_markdown(tables.small(run)),
     })
     with open(path, "w", encoding="utf-8") as file:
@@ -64,7 +66,7 @@ def update_document(run, docs):
 
 def main(raw, results, docs=None):
     run = figures.Run(raw)
-    print(tables.as_text(tables.ratios(run)))
+    print(tables.as_text(tables.ratios(run, figures.FIGURES + figures.DAMAGED_FIGURES)))
     write_results(run, results)
     if docs:
         charts.draw(run, os.path.join(docs, "charts"))

@@ -1,5 +1,5 @@
-// Protobuf: the same fields as a binary message. Its message objects are used in three ways:
-// created for each operation, created for each on an arena, or reused.
+// Protobuf: the same fields as a binary message. Its message objects are used in four ways:
+// created for each operation or reused, each on the heap and on an arena.
 #ifndef BENCH_PEERS_PROTOBUFPEER_H
 #define BENCH_PEERS_PROTOBUFPEER_H
 
@@ -98,6 +98,23 @@ public:
 
 private:
   Message<Kind> message_;
+};
+
+/// The same on an arena, which lives as long.
+template <class Kind>
+class KeptOnArena {
+public:
+  using Texts = Copied;
+
+  template <class Use>
+  auto with(Use use) {
+    message_->Clear();
+    return use(*message_);
+  }
+
+private:
+  google::protobuf::Arena arena_;
+  Message<Kind>* message_ = google::protobuf::Arena::CreateMessage<Message<Kind>>(&arena_);
 };
 
 } // namespace protobuf

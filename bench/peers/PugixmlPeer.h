@@ -23,6 +23,7 @@ struct PugixmlNode {
   std::string_view text() const { return node.child_value(); }
   PugixmlNode next() const { return {node.next_sibling()}; }
   PugixmlNode child() const { return {node.first_child()}; }
+  bool operator==(PugixmlNode other) const { return node == other.node; }
 };
 
 template <class Kind>

@@ -24,6 +24,7 @@ struct TinyXml2Node {
   }
   TinyXml2Node next() const { return {node->NextSiblingElement()}; }
   TinyXml2Node child() const { return {node->FirstChildElement()}; }
+  bool operator==(TinyXml2Node other) const { return node == other.node; }
 };
 
 template <class Kind>
