@@ -633,7 +633,7 @@ public:
   /// @}
 
   // ===============================================================================================
-  // The vocabulary: 163 constants, created when the library is loaded. Case matters everywhere.
+  // The vocabulary: constants, created when the library is loaded. Case matters everywhere.
   //
   // 35 of them are for callers only, no operation uses them: the element names INDEX, ENTRY,
   // UNIQUEIDTODELETE, ACTIONTYPE, LOGLIST, ITEM and SURNAME to TIMEFORMAT (operations use the tag

@@ -98,6 +98,7 @@ public:
   // The element's tags.
   constexpr std::string_view begin() const { return Element(tags_, nameSize_).begin(); }
   constexpr std::string_view close() const { return Element(tags_, nameSize_).close(); }
+  constexpr std::size_t nameSize() const { return nameSize_; }
   constexpr std::size_t tagsSize() const { return Element(tags_, nameSize_).size(); }
   constexpr Content content() const { return content_; }
   constexpr bool isEscaped() const { return escaped_; }

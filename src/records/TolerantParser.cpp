@@ -10,22 +10,32 @@
 namespace journal {
 namespace {
 
-/// Goes to the next tag; returns false at the end of the text or at a NUL. A tag holds "<" only at
-/// its front, so the search continues right behind each one.
-bool findTag(StrictParser& parser, std::string_view& tag) {
+/// Goes to the next "<"; returns false at the end of the text or at a NUL.
+bool goToTag(StrictParser& parser) {
+  parser.goTo(findByteOrNul(parser.at(), parser.end(), '<'));
+  return parser.at() != parser.end() && *parser.at() == '<';
+}
+
+/// The tag that starts here; empty when there is none.
+std::string_view tagAt(StrictParser const& parser) {
   constexpr std::ptrdiff_t longest = 32; // no tag is longer, and a search for ">" takes no longer
-  for (auto const* at = parser.at();; ++at) {
-    at = findByteOrNul(at, parser.end(), '<');
-    parser.goTo(at);
-    if (at == parser.end() || *at == '\0')
-      return false;
-    auto const* const limit = at + std::min(longest, parser.end() - at);
-    auto const* const close = findByteOrNul(at + 1, limit, '>');
-    if (close != limit && *close == '>') {
-      tag = {at, static_cast<std::size_t>(close + 1 - at)};
+  auto const* const at = parser.at();
+  auto const* const limit = at + std::min(longest, parser.end() - at);
+  auto const* const close = findByteOrNul(at + 1, limit, '>');
+  if (close == limit || *close != '>')
+    return {};
+  return {at, static_cast<std::size_t>(close + 1 - at)};
+}
+
+/// Goes to the next tag; returns false at the end of the text or at a NUL. A tag holds "<" only at
+/// its front, so the search continues directly behind each one.
+bool findTag(StrictParser& parser, std::string_view& tag) {
+  for (; goToTag(parser); parser.goTo(parser.at() + 1)) {
+    tag = tagAt(parser);
+    if (!tag.empty())
       return true;
-    }
   }
+  return false;
 }
 
 bool closes(std::string_view tag) {
@@ -54,7 +64,11 @@ public:
       auto const* const field = fieldOf(tag);
       if (field == nullptr)
         return true;
-      read(tag, *field, FieldSet{1} << (field - fields_.begin()));
+      parser_.goTo(tag.data() + tag.size());
+      if (closes(tag))
+        isNested_ |= (states_.open & bitOf(*field)) != 0;
+      else
+        readBegun(*field);
     }
     return false;
   }
@@ -70,8 +84,7 @@ public:
   /// Ends the record: what was not found is absent.
   void storeAbsent() {
     for (auto const& field : fields_)
-      if (auto const bit = FieldSet{1} << (&field - fields_.begin());
-          ((states_.unseen | states_.open) & bit) != 0)
+      if (((states_.unseen | states_.open) & bitOf(field)) != 0)
         store(absent, field);
   }
 
@@ -84,32 +97,34 @@ public:
   }
 
 private:
+  FieldSet bitOf(FieldDescriptor const& field) const {
+    return FieldSet{1} << (&field - fields_.begin());
+  }
+
   /// The field that a tag belongs to, if any. Most tags are in order, so the search starts behind
   /// the field found last.
   FieldDescriptor const* fieldOf(std::string_view tag) {
+    auto const isClose = closes(tag);
+    auto const nameSize = tag.size() - (isClose ? 3 : 2);
     for (auto left = fields_.end() - fields_.begin(); left > 0; --left) {
       if (next_ == fields_.end())
         next_ = fields_.begin();
       auto const& field = *next_++;
-      auto const own = closes(tag) ? field.close() : field.begin();
-      if (own.size() == tag.size() && sameBytes(own.data(), tag.data(), tag.size()))
+      if (field.nameSize() == nameSize && tag == (isClose ? field.close() : field.begin()))
         return &field;
     }
     return nullptr;
   }
 
-  /// Reads an element whose begin tag is new; passes over every other tag of a field.
-  void read(std::string_view tag, FieldDescriptor const& field, FieldSet bit) {
-    parser_.goTo(tag.data() + tag.size());
+  /// Behind a begin tag: reads the element if it is the field's first.
+  void readBegun(FieldDescriptor const& field) {
+    auto const bit = bitOf(field);
     auto const isNew = (states_.unseen & bit) != 0;
-    if (closes(tag)) {
-      isNested_ |= (states_.open & bit) != 0;
-    } else if (field.reading() == Reading::unclosed) {
+    states_.unseen &= ~bit;
+    if (field.reading() == Reading::unclosed) {
       isNested_ |= !isNew; // its begin tag closes it
       store(absent, field);
-      states_.unseen &= ~bit;
     } else if (isNew) {
-      states_.unseen &= ~bit;
       readValue(field, bit);
     }
   }
@@ -221,13 +236,6 @@ bool takeEnding(StrictParser& parser, Ending ending) {
   return ending == Ending::text ? parser.rest().empty() : parser.take(element<word::ENTRY>.close());
 }
 
-/// A message that is read as one entry may hold others, and more elements behind them.
-bool isStructure(std::string_view tag, Ending ending) {
-  return ending == Ending::text
-             ? tag == element<word::LOGLIST>.begin() || tag == element<word::LOGLIST>.close()
-             : isStructure(tag);
-}
-
 /// Reads the rest of an entry, from the first tag that the strict parser did not expect.
 bool continueEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* calls,
                    FieldReader& reader, FieldStates const& states, bool hasCalls, Ending ending) {
@@ -240,8 +248,9 @@ bool continueEntry(StrictParser& parser, RecordOps const& ops, void* entry, void
       hasCalls = true;
     } else if (ending == Ending::tag && tag == element<word::ENTRY>.close()) {
       break;
-    } else if (isStructure(tag, ending)) {
-      return false;
+    } else if (ending == Ending::tag ? isStructure(tag)
+                                     : tag == element<word::LOGLIST>.begin() && !hasCalls) {
+      return false; // In a text that is read as one entry, tags of others bound nothing.
     } else {
       passOver(parser, tag);
     }
