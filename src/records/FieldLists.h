@@ -99,8 +99,7 @@ class LiteralRun {
 
   // An absent text is neither first nor last in a run: only the elements on both sides show that it
   // is absent.
-  static_assert(fields[first].isExpected() || isJoined(first) == isJoined(first + 1),
-                "a literal run begins and ends with a field that has an expected value");
+  static_assert(fields[first].isExpected() || isJoined(first) == isJoined(first + 1));
 
 public:
   static constexpr std::string_view text{chars.data(), chars.size()};
