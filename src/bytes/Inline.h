@@ -10,7 +10,7 @@
 #define JOURNAL_INLINE __attribute__((always_inline))
 #endif
 
-// JOURNAL_INLINE_ONCE forces inlining in either build, for functions that have one caller there.
+// JOURNAL_INLINE_ONCE forces inlining in either build, where each instantiation has one caller.
 #define JOURNAL_INLINE_ONCE __attribute__((always_inline))
 
 namespace journal {

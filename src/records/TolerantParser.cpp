@@ -18,9 +18,9 @@ bool goToTag(StrictParser& parser) {
 
 /// The tag that starts here; empty when there is none.
 std::string_view tagAt(StrictParser const& parser) {
-  constexpr std::ptrdiff_t longest = 32; // no tag is longer, and a search for ">" takes no longer
   auto const* const at = parser.at();
-  auto const* const limit = at + std::min(longest, parser.end() - at);
+  // No tag is longer, so the search for its ">" takes no longer.
+  auto const* const limit = at + std::min<std::ptrdiff_t>(detail::longestTag, parser.end() - at);
   auto const* const close = findByteOrNul(at + 1, limit, '>');
   if (close == limit || *close != '>')
     return {};
@@ -241,16 +241,17 @@ bool continueEntry(StrictParser& parser, RecordOps const& ops, void* entry, void
                    FieldReader& reader, FieldStates const& states, bool hasCalls, Ending ending) {
   FieldPass pass(parser, ops.entryFields, entry, reader, states);
   for (std::string_view tag; pass.findOther(tag);) {
-    if (tag == element<word::LOGLIST>.begin() && !hasCalls && !pass.isOpen()) {
+    if (tag == element<word::LOGLIST>.begin() && !hasCalls) {
       parser.goTo(tag.data() + tag.size());
-      if (!parseCalls(parser, ops, calls, reader, pass.unseen()))
+      if (pass.isOpen() || !parseCalls(parser, ops, calls, reader, pass.unseen()))
         return false;
       hasCalls = true;
-    } else if (ending == Ending::tag && tag == element<word::ENTRY>.close()) {
+    } else if (ending == Ending::text) {
+      passOver(parser, tag); // tags of other entries bound nothing
+    } else if (tag == element<word::ENTRY>.close()) {
       break;
-    } else if (ending == Ending::tag ? isStructure(tag)
-                                     : tag == element<word::LOGLIST>.begin() && !hasCalls) {
-      return false; // In a text that is read as one entry, tags of others bound nothing.
+    } else if (isStructure(tag)) {
+      return false;
     } else {
       passOver(parser, tag);
     }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "bytes/Bytes.h"
 #include "vocabulary/Words.h"
 
 namespace journal {
@@ -37,6 +38,17 @@ constexpr std::size_t allTagsSize() {
   for (auto const name : elementNames)
     size += tagsSize(name.size());
   return size;
+}
+
+/// No tag is longer than this.
+inline constexpr std::size_t longestTag = 32;
+
+/// Whether sameBytes can compare the shortest tag, and no tag is longer than longestTag.
+constexpr bool tagsFit() {
+  for (auto const name : elementNames)
+    if (name.size() + 2 < smallestCompared || name.size() + 3 > longestTag)
+      return false;
+  return true;
 }
 
 /// The tags of all elements in one text, so that two bytes tell where an element's are.
@@ -84,6 +96,7 @@ private:
   std::uint8_t nameSize_;
 };
 static_assert(detail::allTagsSize() <= UINT16_MAX);
+static_assert(detail::tagsFit());
 
 /// The element called `name`, one of the words.
 template <std::string_view const& name>
