@@ -62,11 +62,9 @@ bool erased::decodeCall(LogKind kind, char const* text, void* call) {
   return true;
 }
 
-bool erased::decodeCalls(LogKind kind, char const* text, void* calls) {
-  auto const& ops = opsOf(kind);
+void erased::decodeCalls(LogKind kind, char const* text, void* calls) {
   FieldReader reader;
-  searchCalls(viewOf(text), ops, calls, reader);
-  return !ops.isEmpty(calls);
+  searchCalls(viewOf(text), opsOf(kind), calls, reader);
 }
 
 void erased::decodeEntry(LogKind kind, char const* text, void* entry, void* calls) {

@@ -3,10 +3,8 @@
 #ifndef JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 #define JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "CallLogEntryEvent.h"

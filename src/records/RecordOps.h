@@ -38,7 +38,6 @@ struct RecordOps {
   void* (*callsOf)(void* entry);
   void (*clearCalls)(void* calls);
   void* (*appendCall)(void* calls);
-  bool (*isEmpty)(void const* calls);
 };
 
 RecordOps const& opsOf(LogKind kind);

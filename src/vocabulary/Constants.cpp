@@ -11,7 +11,7 @@ namespace {
 using namespace journal;
 
 // The constants are initialised in the order of Words.def, so each takes the next word or the next
-// tag. Passing every constructor its own text would take 2 KB more on the device.
+// tag. Passing every constructor its own text would take 1.9 KB more on the device.
 
 constexpr char words[] =
 #define WORD(NAME, text) text "\0"
