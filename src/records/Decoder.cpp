@@ -62,9 +62,11 @@ bool erased::decodeCall(LogKind kind, char const* text, void* call) {
   return true;
 }
 
-void erased::decodeCalls(LogKind kind, char const* text, void* calls) {
+bool erased::decodeCalls(LogKind kind, char const* text, void* calls) {
+  auto const& ops = opsOf(kind);
   FieldReader reader;
-  searchCalls(viewOf(text), opsOf(kind), calls, reader);
+  searchCalls(viewOf(text), ops, calls, reader);
+  return !ops.isEmpty(calls);
 }
 
 void erased::decodeEntry(LogKind kind, char const* text, void* entry, void* calls) {

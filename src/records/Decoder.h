@@ -16,7 +16,7 @@ namespace journal {
 // std::deque of entries, calls are a std::list.
 namespace erased {
 bool decodeCall(LogKind kind, char const* text, void* call);
-void decodeCalls(LogKind kind, char const* text, void* calls);
+bool decodeCalls(LogKind kind, char const* text, void* calls);
 void decodeEntry(LogKind kind, char const* text, void* entry, void* calls);
 bool decodeLog(LogKind kind, std::string const& text, void* log);
 bool decodeLog(LogKind kind, std::string const& text, void* log, unsigned int& handle);
@@ -34,8 +34,7 @@ bool decodeCall(char const* text, Call& call) {
 /// Reads the calls of the first LogList; the list is cleared first. Returns whether there are any.
 template <class Call>
 bool decodeCalls(char const* text, std::list<Call>& calls) {
-  erased::decodeCalls(kindOf<Call>, text, &calls);
-  return !calls.empty();
+  return erased::decodeCalls(kindOf<Call>, text, &calls);
 }
 
 /// Reads one entry from the inside of an Entry. Without any call in the text, the entry keeps the

@@ -3,8 +3,10 @@
 #ifndef JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 #define JOURNAL_RECORDS_FIELDDESCRIPTOR_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "CallLogEntryEvent.h"

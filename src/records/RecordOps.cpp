@@ -60,12 +60,13 @@ struct OpsFor {
   static void* appendCall(void* calls) {
     return &static_cast<Calls*>(calls)->emplace_back(Defaults<Call>());
   }
+  static bool isEmpty(void const* calls) { return static_cast<Calls const*>(calls)->empty(); }
 
   static constexpr RecordOps ops = {Kind<Entry>::entry, Kind<Entry>::call, Kind<Entry>::callRead,
                                     parseEntryFields,   parseCallFields,   writeEntryFields,
                                     writeCalls,         writeEntries,      clearLog,
                                     appendEntry,        dropLastEntry,     callsOf,
-                                    clearCalls,         appendCall};
+                                    clearCalls,         appendCall,        isEmpty};
 };
 
 } // namespace

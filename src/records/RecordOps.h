@@ -38,6 +38,7 @@ struct RecordOps {
   void* (*callsOf)(void* entry);
   void (*clearCalls)(void* calls);
   void* (*appendCall)(void* calls);
+  bool (*isEmpty)(void const* calls);
 };
 
 RecordOps const& opsOf(LogKind kind);
