@@ -40,6 +40,14 @@ JOURNAL_INLINE inline bool sameWords(char const* left, char const* right, std::s
   return difference == 0;
 }
 
+/// Compares two words, which may overlap.
+template <class Word>
+JOURNAL_INLINE inline bool sameEnds(char const* left, char const* right, std::size_t size) {
+  auto const last = size - sizeof(Word);
+  return ((load<Word>(left) ^ load<Word>(right)) |
+          (load<Word>(left + last) ^ load<Word>(right + last))) == 0;
+}
+
 /// Copies two words, which may overlap.
 template <class Word>
 JOURNAL_INLINE inline void copyEnds(char* to, char const* from, std::size_t size) {
@@ -56,6 +64,16 @@ struct Pair {
 
 #ifdef __SSE2__
 
+/// A block of bytes that is compared at once.
+struct Half {
+  static constexpr std::size_t size = 16;
+  JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
+    auto const equal = _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<__m128i const*>(left)),
+                                      _mm_loadu_si128(reinterpret_cast<__m128i const*>(right)));
+    return _mm_movemask_epi8(equal) == 0xffff;
+  }
+};
+
 /// A block of bytes that is searched at once for `byte` or NUL.
 struct Block {
   static constexpr std::ptrdiff_t size = 16;
@@ -70,6 +88,14 @@ struct Block {
 };
 
 #else
+
+/// A block of bytes that is compared at once.
+struct Half {
+  static constexpr std::size_t size = 16;
+  JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
+    return sameEnds<std::uint64_t>(left, right, size);
+  }
+};
 
 /// A block of bytes that is searched at once for `byte` or NUL.
 struct Block {
@@ -113,6 +139,24 @@ JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::s
   if (size < sizeof(std::uint64_t))
     return detail::sameWords<std::uint32_t>(left, right, size);
   return detail::sameWords<std::uint64_t>(left, right, size);
+}
+
+/// The most bytes that sameTag compares.
+inline constexpr std::size_t largestTag = 2 * detail::Half::size;
+
+/// Compares `size` bytes, from smallestCompared to largestTag, with few branches where the compiler
+/// does not know the size.
+JOURNAL_INLINE inline bool sameTag(char const* left, char const* right, std::size_t size) {
+  using detail::Half;
+  if (!builtForSpeed)
+    return std::char_traits<char>::compare(left, right, size) == 0;
+  if (size >= Half::size) {
+    auto const last = size - Half::size;
+    return Half::same(left, right) && Half::same(left + last, right + last);
+  }
+  if (size >= sizeof(std::uint64_t))
+    return detail::sameEnds<std::uint64_t>(left, right, size);
+  return detail::sameEnds<std::uint32_t>(left, right, size);
 }
 
 /// How many bytes sameFront loads.

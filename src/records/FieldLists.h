@@ -1,9 +1,11 @@
 // The fields of a record, visited in a loop or unrolled.
 //
 //   forEach(fields, visit)   calls visit(field) for each field in order
-//   allOf(fields, visit)     calls visit(field, run, bit) until one returns false; returns whether
-//                            none did. The run is the literal run that starts with the field, or
-//                            empty; the bit is the field's in a FieldSet
+//   allOf(fields, first, visit)
+//                            calls visit(field, run, bit) from the field number `first` on, until
+//                            one returns false; returns whether none did. The run is the literal
+//                            run that starts with the field, or empty; the bit is the field's in a
+//                            FieldSet
 #ifndef JOURNAL_RECORDS_FIELDLISTS_H
 #define JOURNAL_RECORDS_FIELDLISTS_H
 
@@ -44,10 +46,10 @@ JOURNAL_INLINE_ONCE inline void forEach(LoopedFields fields, Visit visit) {
 }
 
 template <class Visit>
-JOURNAL_INLINE_ONCE inline bool allOf(LoopedFields fields, Visit visit) {
-  FieldSet bit = 1;
-  for (auto const& field : fields) {
-    if (!visit(field, std::string_view(), bit))
+JOURNAL_INLINE_ONCE inline bool allOf(LoopedFields fields, std::size_t first, Visit visit) {
+  auto bit = FieldSet{1} << first;
+  for (auto const* field = fields.begin() + first; field != fields.end(); ++field) {
+    if (!visit(*field, std::string_view(), bit))
       return false;
     bit <<= 1;
   }
@@ -111,8 +113,11 @@ JOURNAL_INLINE_ONCE inline void forEach(Visit& visit, std::index_sequence<index.
 }
 
 template <auto const& fields, class Visit, std::size_t... index>
-JOURNAL_INLINE_ONCE inline bool allOf(Visit& visit, std::index_sequence<index...>) {
-  return (visit(fields[index], LiteralRun<fields, index>::text, FieldSet{1} << index) && ...);
+JOURNAL_INLINE_ONCE inline bool allOf(std::size_t first, Visit& visit,
+                                      std::index_sequence<index...>) {
+  return ((index < first ||
+           visit(fields[index], LiteralRun<fields, index>::text, FieldSet{1} << index)) &&
+          ...);
 }
 
 } // namespace detail
@@ -123,8 +128,8 @@ JOURNAL_INLINE_ONCE inline void forEach(UnrolledFields<fields>, Visit visit) {
 }
 
 template <auto const& fields, class Visit>
-JOURNAL_INLINE_ONCE inline bool allOf(UnrolledFields<fields>, Visit visit) {
-  return detail::allOf<fields>(visit, typename UnrolledFields<fields>::Indices());
+JOURNAL_INLINE_ONCE inline bool allOf(UnrolledFields<fields>, std::size_t first, Visit visit) {
+  return detail::allOf<fields>(first, visit, typename UnrolledFields<fields>::Indices());
 }
 
 /// The fields as the code is built: unrolled for speed, in a loop for size.

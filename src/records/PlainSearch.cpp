@@ -37,7 +37,7 @@ void searchCalls(std::string_view text, RecordOps const& ops, void* calls, Field
 void searchEntry(std::string_view text, RecordOps const& ops, void* entry, void* calls,
                  FieldReader& reader) {
   Cursor cursor(text);
-  searchFields(ops.entryFields, cursor, entry, reader);
+  searchFields(ops.entry.list, cursor, entry, reader);
   searchCalls(cursor.rest(), ops, calls, reader);
 }
 

@@ -29,13 +29,10 @@ struct OpsFor {
   static_assert(RecordWriter::canWrite(Kind<Entry>::entry) &&
                 RecordWriter::canWrite(Kind<Entry>::call));
 
-  static bool parseEntryFields(StrictParser& parser, void* entry, FieldReader& reader,
-                               FieldStates& states) {
-    return parseFields(fieldList<Kind<Entry>::entry>(), parser, entry, reader, states);
-  }
-  static bool parseCallFields(StrictParser& parser, void* call, FieldReader& reader,
-                              FieldStates& states) {
-    return parseFields(fieldList<Kind<Entry>::call>(), parser, call, reader, states);
+  template <auto const& fields>
+  static bool parse(StrictParser& parser, void* record, FieldReader& reader, FieldStates& states,
+                    std::size_t first) {
+    return parseFields(fieldList<fields>(), parser, record, reader, states, first);
   }
   static void writeEntryFields(RecordWriter& writer, void const* entry) {
     writer.append("", fieldList<Kind<Entry>::entry>(), entry, "");
@@ -62,11 +59,25 @@ struct OpsFor {
   }
   static bool isEmpty(void const* calls) { return static_cast<Calls const*>(calls)->empty(); }
 
-  static constexpr RecordOps ops = {Kind<Entry>::entry, Kind<Entry>::call, Kind<Entry>::callRead,
-                                    parseEntryFields,   parseCallFields,   writeEntryFields,
-                                    writeCalls,         writeEntries,      clearLog,
-                                    appendEntry,        dropLastEntry,     callsOf,
-                                    clearCalls,         appendCall,        isEmpty};
+  template <auto const& fields>
+  static constexpr FieldIndex index{fields};
+
+  template <auto const& fields>
+  static constexpr RecordFields record = {fields, index<fields>, parse<fields>};
+
+  static constexpr RecordOps ops = {record<Kind<Entry>::entry>,
+                                    record<Kind<Entry>::call>,
+                                    Kind<Entry>::callRead,
+                                    writeEntryFields,
+                                    writeCalls,
+                                    writeEntries,
+                                    clearLog,
+                                    appendEntry,
+                                    dropLastEntry,
+                                    callsOf,
+                                    clearCalls,
+                                    appendCall,
+                                    isEmpty};
 };
 
 } // namespace

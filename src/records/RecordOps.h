@@ -3,6 +3,7 @@
 #ifndef JOURNAL_RECORDS_RECORDOPS_H
 #define JOURNAL_RECORDS_RECORDOPS_H
 
+#include "records/FieldIndex.h"
 #include "records/FieldLists.h"
 #include "records/Kinds.h"
 
@@ -13,20 +14,25 @@ class RecordWriter;
 class StrictParser;
 struct FieldStates;
 
+/// The fields of a record, in the order in which they are written.
+struct RecordFields {
+  LoopedFields list;
+  FieldIndex const& index;
+
+  /// Reads them strictly, from the field number `first` on. Unrolled where the code is built for
+  /// speed.
+  bool (*parse)(StrictParser& parser, void* record, FieldReader& reader, FieldStates& states,
+                std::size_t first);
+};
+
 /// The pointers are to records and containers of one kind: a log is a std::deque of entries, calls
 /// are a std::list.
 struct RecordOps {
-  // The fields in the order in which they are written, and a call's in the order in which plain
-  // searches read them.
-  LoopedFields entryFields;
-  LoopedFields callFields;
-  LoopedFields callRead;
+  RecordFields entry;
+  RecordFields call;
+  LoopedFields callRead; // a call's fields in the order in which plain searches read them
 
-  // Reading and writing the fields, unrolled where the code is built for speed.
-  bool (*parseEntryFields)(StrictParser& parser, void* entry, FieldReader& reader,
-                           FieldStates& states);
-  bool (*parseCallFields)(StrictParser& parser, void* call, FieldReader& reader,
-                          FieldStates& states);
+  // Writing the fields, unrolled like reading.
   void (*writeEntryFields)(RecordWriter& writer, void const* entry);
   void (*writeCalls)(RecordWriter& writer, void const* entry);
   void (*writeEntries)(RecordWriter& writer, void const* log);

@@ -36,6 +36,14 @@ public:
     return true;
   }
 
+  /// The same for one tag that the compiler does not know.
+  JOURNAL_INLINE inline bool takeTag(std::string_view expected) {
+    if (left() < expected.size() || !sameTag(at_, expected.data(), expected.size()))
+      return false;
+    at_ += expected.size();
+    return true;
+  }
+
   /// Reads an optional element: its value, absent when its begin tag is not here. Returns false
   /// when the close tag does not follow the value.
   JOURNAL_INLINE_ONCE inline bool take(std::string_view begin, std::string_view close,
@@ -61,47 +69,51 @@ private:
 
 /// The fields of a record that a parser has not stored.
 struct FieldStates {
-  FieldSet unseen = 0; ///< no begin tag so far
-  FieldSet open = 0;   ///< a begin tag, but the next "<" does not begin the close tag
+  FieldSet unseen = ~FieldSet{0}; ///< no begin tag so far
+  FieldSet open = 0;              ///< a begin tag, but the next "<" does not begin the close tag
 };
 
 /// Reads the fields of a record, in the order in which they are written. At a mismatch, stops
 /// before the tag that does not match and returns false.
-/// @param[out] states the fields that were not stored
+/// @param states the fields that were not stored; before the call, none is open, and no field from
+///        `first` on was seen
+/// @param first the number of the field to start with
 template <class Fields>
 JOURNAL_INLINE inline bool parseFields(Fields fields, StrictParser& from, void* record,
-                                       FieldReader& reader, FieldStates& states) {
+                                       FieldReader& reader, FieldStates& states,
+                                       std::size_t first) {
   auto parser = from; // a copy that can stay in registers
-  FieldSet unseen = 0;
+  FieldSet seen = 0;
   auto const store = [&](std::string_view raw, FieldDescriptor const& field,
                          FieldSet bit) JOURNAL_INLINE_ONCE {
-    if (isAbsent(raw))
-      unseen |= bit;
+    if (!isAbsent(raw))
+      seen |= bit;
     if (field.reading() == Reading::discarded)
       return;
     // An unclosed element is found by a second begin tag only, and there is none here.
     reader.store(field.reading() == Reading::unclosed ? absent : raw, field, record);
   };
   auto inRun = false;
-  auto const matched = allOf(fields, [&](FieldDescriptor const& field, std::string_view run,
-                                         FieldSet bit) JOURNAL_INLINE_ONCE {
-    if (builtForSpeed && !field.isJoined())
-      inRun = !run.empty() && parser.take(run);
-    std::string_view raw;
-    if (inRun) {
-      store(field.expectedText(), field, bit);
-    } else if (parser.take(field.begin(), field.close(), raw)) {
-      store(raw, field, bit);
-    } else {
-      parser.goTo(raw.data() + raw.size());
-      states.open = bit;
-      unseen |= ~(bit | (bit - 1)); // all fields after it
-      return false;
-    }
-    return true;
-  });
+  auto const matched = allOf(fields, first,
+                             [&](FieldDescriptor const& field, std::string_view run, FieldSet bit)
+                                 JOURNAL_INLINE_ONCE {
+                                   if (builtForSpeed && !field.isJoined())
+                                     inRun = !run.empty() && parser.take(run);
+                                   std::string_view raw;
+                                   if (inRun) {
+                                     store(field.expectedText(), field, bit);
+                                   } else if (parser.take(field.begin(), field.close(), raw)) {
+                                     store(raw, field, bit);
+                                   } else {
+                                     parser.goTo(raw.data() + raw.size());
+                                     states.open = bit;
+                                     seen |= bit;
+                                     return false;
+                                   }
+                                   return true;
+                                 });
   from = parser;
-  states.unseen = unseen;
+  states.unseen &= ~seen;
   return matched;
 }
 

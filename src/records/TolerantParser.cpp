@@ -10,36 +10,31 @@
 namespace journal {
 namespace {
 
-/// Goes to the next "<"; returns false at the end of the text or at a NUL.
-bool goToTag(StrictParser& parser) {
-  parser.goTo(findByteOrNul(parser.at(), parser.end(), '<'));
-  return parser.at() != parser.end() && *parser.at() == '<';
-}
-
-/// The tag that starts here; empty when there is none.
-std::string_view tagAt(StrictParser const& parser) {
-  auto const* const at = parser.at();
-  // No tag is longer, so the search for its ">" takes no longer.
-  auto const* const limit = at + std::min<std::ptrdiff_t>(detail::longestTag, parser.end() - at);
-  auto const* const close = findByteOrNul(at + 1, limit, '>');
-  if (close == limit || *close != '>')
-    return {};
-  return {at, static_cast<std::size_t>(close + 1 - at)};
-}
-
 /// Goes to the next tag; returns false at the end of the text or at a NUL. A tag holds "<" only at
 /// its front, so the search continues directly behind each one.
-bool findTag(StrictParser& parser, std::string_view& tag) {
-  for (; goToTag(parser); parser.goTo(parser.at() + 1)) {
-    tag = tagAt(parser);
-    if (!tag.empty())
+JOURNAL_INLINE inline bool findTag(StrictParser& parser, std::string_view& tag) {
+  auto const* const end = parser.end();
+  for (auto const* at = parser.at();; ++at) {
+    at = findByteOrNul(at, end, '<');
+    if (at == end || *at != '<')
+      return false;
+    // No tag is longer, so the search for its ">" takes no longer.
+    auto const* const limit = at + std::min<std::ptrdiff_t>(detail::longestTag, end - at);
+    auto const* const close = findByteOrNul(at + 1, limit, '>');
+    if (close != limit && *close == '>') {
+      tag = {at, static_cast<std::size_t>(close + 1 - at)};
+      parser.goTo(at);
       return true;
+    }
   }
-  return false;
 }
 
 bool closes(std::string_view tag) {
   return tag[1] == '/';
+}
+
+bool isIn(FieldSet set, std::size_t number) {
+  return (set >> number & 1) != 0;
 }
 
 /// The tags that bound records, and the one that ends the search for a message's handle.
@@ -53,22 +48,24 @@ bool isStructure(std::string_view tag) {
 /// A pass over the fields of one record, in any order and among any other text.
 class FieldPass {
 public:
-  FieldPass(StrictParser& parser, LoopedFields fields, void* record, FieldReader& reader,
+  FieldPass(StrictParser& parser, RecordFields const& fields, void* record, FieldReader& reader,
             FieldStates const& states)
-      : parser_(parser), fields_(fields), record_(record), reader_(reader), states_(states),
-        next_(fields.begin()) {}
+      : parser_(parser), fields_(fields), record_(record), reader_(reader), states_(states) {}
 
   /// Reads fields up to the next other tag; returns false at the end of the text or at a NUL.
   bool findOther(std::string_view& tag) {
     while (findTag(parser_, tag)) {
-      auto const* const field = fieldOf(tag);
-      if (field == nullptr)
+      auto const isClose = closes(tag);
+      if (isClose && !isOpen())
+        return true;
+      auto const number = fields_.index.find(tag, isClose);
+      if (number == FieldIndex::none)
         return true;
       parser_.goTo(tag.data() + tag.size());
-      if (closes(tag))
-        isNested_ |= (states_.open & bitOf(*field)) != 0;
+      if (isClose)
+        isNested_ |= isIn(states_.open, number);
       else
-        readBegun(*field);
+        readBegun(number);
     }
     return false;
   }
@@ -83,60 +80,44 @@ public:
 
   /// Ends the record: what was not found is absent.
   void storeAbsent() {
-    for (auto const& field : fields_)
-      if (((states_.unseen | states_.open) & bitOf(field)) != 0)
+    auto missing = states_.unseen | states_.open;
+    for (auto const& field : fields_.list) {
+      if (isIn(missing, 0))
         store(absent, field);
-  }
-
-  /// Whether a tag begins a field that is in a set.
-  static bool begins(std::string_view tag, LoopedFields fields, FieldSet set) {
-    for (auto const& field : fields)
-      if (((set >> (&field - fields.begin())) & 1) != 0 && tag == field.begin())
-        return true;
-    return false;
+      missing >>= 1;
+    }
   }
 
 private:
-  FieldSet bitOf(FieldDescriptor const& field) const {
-    return FieldSet{1} << (&field - fields_.begin());
-  }
-
-  /// The field that a tag belongs to, if any. Most tags are in order, so the search starts behind
-  /// the field found last.
-  FieldDescriptor const* fieldOf(std::string_view tag) {
-    auto const isClose = closes(tag);
-    auto const nameSize = tag.size() - (isClose ? 3 : 2);
-    for (auto left = fields_.end() - fields_.begin(); left > 0; --left) {
-      if (next_ == fields_.end())
-        next_ = fields_.begin();
-      auto const& field = *next_++;
-      if (field.nameSize() == nameSize && tag == (isClose ? field.close() : field.begin()))
-        return &field;
-    }
-    return nullptr;
-  }
-
   /// Behind a begin tag: reads the element if it is the field's first.
-  void readBegun(FieldDescriptor const& field) {
-    auto const bit = bitOf(field);
-    auto const isNew = (states_.unseen & bit) != 0;
-    states_.unseen &= ~bit;
-    if (field.reading() == Reading::unclosed) {
-      isNested_ |= !isNew; // its begin tag closes it
-      store(absent, field);
-    } else if (isNew) {
-      readValue(field, bit);
+  void readBegun(std::size_t number) {
+    auto const& field = fields_.list.begin()[number];
+    if (isIn(states_.unseen, number)) {
+      states_.unseen &= ~(FieldSet{1} << number);
+      readValue(field, number);
+      if (isInOrder(number))
+        fields_.parse(parser_, record_, reader_, states_, number + 1);
+    } else if (field.reading() == Reading::unclosed) {
+      isNested_ = true; // its begin tag closes it
     }
   }
 
-  void readValue(FieldDescriptor const& field, FieldSet bit) {
+  void readValue(FieldDescriptor const& field, std::size_t number) {
     auto const* const front = parser_.at();
     auto const* const end = findByteOrNul(front, parser_.end(), '<');
     parser_.goTo(end);
-    if (parser_.take(field.close()))
+    if (field.reading() == Reading::unclosed)
+      store(absent, field);
+    else if (parser_.takeTag(field.close()))
       store({front, static_cast<std::size_t>(end - front)}, field);
     else
-      states_.open |= bit;
+      states_.open |= FieldSet{1} << number;
+  }
+
+  /// Whether the strict parser can read on: a tag follows, and only fields before it were seen.
+  bool isInOrder(std::size_t number) const {
+    return parser_.at() != parser_.end() && *parser_.at() == '<' && !isOpen() &&
+           ~states_.unseen >> number == 1;
   }
 
   void store(std::string_view raw, FieldDescriptor const& field) {
@@ -145,11 +126,10 @@ private:
   }
 
   StrictParser& parser_;
-  LoopedFields fields_;
+  RecordFields const& fields_;
   void* record_;
   FieldReader& reader_;
   FieldStates states_;
-  FieldDescriptor const* next_;
   bool isNested_ = false;
 };
 
@@ -159,13 +139,16 @@ void passOver(StrictParser& parser, std::string_view tag) {
 
 /// Whether a tag among the calls changes what an entry's fields or its list of calls hold.
 bool isMisplaced(std::string_view tag, RecordOps const& ops, FieldSet entryUnseen) {
-  return isStructure(tag) || FieldPass::begins(tag, ops.entryFields, entryUnseen);
+  if (isStructure(tag))
+    return true;
+  auto const number = closes(tag) ? FieldIndex::none : ops.entry.index.find(tag, false);
+  return number != FieldIndex::none && isIn(entryUnseen, number);
 }
 
 /// Reads the rest of a call and the Item's close tag.
 bool continueCall(char const* front, StrictParser& parser, RecordOps const& ops, void* call,
                   FieldReader& reader, FieldStates const& states, FieldSet entryUnseen) {
-  FieldPass pass(parser, ops.callFields, call, reader, states);
+  FieldPass pass(parser, ops.call, call, reader, states);
   for (std::string_view tag; pass.findOther(tag); passOver(parser, tag)) {
     if (tag == element<word::ITEM>.close()) {
       if (pass.isNested())
@@ -196,7 +179,9 @@ bool parseItem(StrictParser& parser, RecordOps const& ops, void* call, FieldRead
                FieldSet entryUnseen) {
   auto const* const front = parser.at();
   FieldStates states;
-  if (ops.parseCallFields(parser, call, reader, states) && parser.take(element<word::ITEM>.close()))
+  auto const startsWithTag = !parser.rest().empty() && *front == '<';
+  if (startsWithTag && ops.call.parse(parser, call, reader, states, 0) &&
+      parser.take(element<word::ITEM>.close()))
     return true;
   return continueCall(front, parser, ops, call, reader, states, entryUnseen);
 }
@@ -205,9 +190,9 @@ bool parseItem(StrictParser& parser, RecordOps const& ops, void* call, FieldRead
 
 bool parseCall(StrictParser& parser, RecordOps const& ops, void* call, FieldReader& reader) {
   FieldStates states;
-  if (ops.parseCallFields(parser, call, reader, states) && parser.rest().empty())
+  if (ops.call.parse(parser, call, reader, states, 0) && parser.rest().empty())
     return true;
-  FieldPass pass(parser, ops.callFields, call, reader, states);
+  FieldPass pass(parser, ops.call, call, reader, states);
   for (std::string_view tag; pass.findOther(tag);)
     passOver(parser, tag);
   if (pass.isNested())
@@ -239,7 +224,7 @@ bool takeEnding(StrictParser& parser, Ending ending) {
 /// Reads the rest of an entry, from the first tag that the strict parser did not expect.
 bool continueEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* calls,
                    FieldReader& reader, FieldStates const& states, bool hasCalls, Ending ending) {
-  FieldPass pass(parser, ops.entryFields, entry, reader, states);
+  FieldPass pass(parser, ops.entry, entry, reader, states);
   for (std::string_view tag; pass.findOther(tag);) {
     if (tag == element<word::LOGLIST>.begin() && !hasCalls) {
       parser.goTo(tag.data() + tag.size());
@@ -268,7 +253,7 @@ bool parseEntry(StrictParser& parser, RecordOps const& ops, void* entry, void* c
                 FieldReader& reader, Ending ending) {
   auto const* const front = parser.at();
   FieldStates states;
-  auto const hasCalls = ops.parseEntryFields(parser, entry, reader, states) &&
+  auto const hasCalls = ops.entry.parse(parser, entry, reader, states, 0) &&
                         parser.take(element<word::LOGLIST>.begin());
   if (hasCalls && !parseCalls(parser, ops, calls, reader, states.unseen))
     return false;

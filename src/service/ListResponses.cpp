@@ -29,14 +29,14 @@ void raiseSizeHint(std::size_t size) {
     continue;
 }
 
-std::string beginMessage(std::string_view method) {
+std::string beginResponse(std::string_view method) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
   append(message, {element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
   return message;
 }
 
-void endMessage(std::string& message, unsigned int handle) {
+void endResponse(std::string& message, unsigned int handle) {
   append(message,
          {element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
   raiseSizeHint(message.size());
@@ -44,9 +44,9 @@ void endMessage(std::string& message, unsigned int handle) {
 
 template <class Entry>
 std::string listResponse(std::deque<Entry> const& log, unsigned int handle) {
-  auto message = beginMessage(Kind<Entry>::method);
+  auto message = beginResponse(Kind<Entry>::method);
   appendLog(log, message);
-  endMessage(message, handle);
+  endResponse(message, handle);
   return message;
 }
 

@@ -21,12 +21,12 @@ std::string_view digitOf(Action action) {
 }
 
 // Not enveloped: everything that follows is appended behind the declaration.
-std::string beginMessage(std::string_view method) {
+std::string beginNotification(std::string_view method) {
   return joined(
       {word::XMLHEADER, element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
 }
 
-void endMessage(std::string& message, std::string const& uniqueIdToDelete, Action action,
+void endNotification(std::string& message, std::string const& uniqueIdToDelete, Action action,
                 unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
   if (!uniqueIdToDelete.empty())
@@ -39,9 +39,9 @@ void endMessage(std::string& message, std::string const& uniqueIdToDelete, Actio
 template <class Entry>
 std::string entryUpdate(Entry const& entry, std::string const& uniqueIdToDelete, Action action,
                         unsigned int handle) {
-  auto message = beginMessage(Kind<Entry>::update);
+  auto message = beginNotification(Kind<Entry>::update);
   appendEntryBody(entry, message, false);
-  endMessage(message, uniqueIdToDelete, action, handle);
+  endNotification(message, uniqueIdToDelete, action, handle);
   return message;
 }
 

@@ -41,9 +41,9 @@ constexpr std::size_t allTagsSize() {
 }
 
 /// No tag is longer than this.
-inline constexpr std::size_t longestTag = 32;
+inline constexpr std::size_t longestTag = largestTag;
 
-/// Whether sameBytes can compare the shortest tag, and no tag is longer than longestTag.
+/// Whether the tags have sizes that sameBytes and sameTag can compare.
 constexpr bool tagsFit() {
   for (auto const name : elementNames)
     if (name.size() + 2 < smallestCompared || name.size() + 3 > longestTag)
