@@ -2,23 +2,22 @@
 #ifndef JOURNAL_RECORDS_FIELDINDEX_H
 #define JOURNAL_RECORDS_FIELDINDEX_H
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string_view>
 
 #include "bytes/Bytes.h"
-#include "records/FieldDescriptor.h"
+#include "records/FieldLists.h"
 
 namespace journal {
 
 /// A perfect hash of the elements of one record, by their names' first character and size.
 class FieldIndex {
 public:
-  /// No constant expression when no factor tells the elements apart.
+  /// No constant expression when no factor tells the elements apart: more slots will.
   template <class Fields>
-  constexpr explicit FieldIndex(Fields const& fields) : fields_(std::data(fields)) {
+  constexpr explicit FieldIndex(Fields const& fields) {
     while (!fill(fields))
       ++factor_;
   }
@@ -27,13 +26,15 @@ public:
   static constexpr std::uint8_t none = 0xff;
 
   /// The number of the field whose begin tag, or close tag, this is.
-  /// @param tag at most longestTag characters, of which only the last is a ">"
-  JOURNAL_INLINE inline std::size_t find(std::string_view tag, bool isClose) const {
+  /// @param fields those of the constructor
+  /// @param tag begins with "<" or "</", and only its last character is a ">"
+  JOURNAL_INLINE inline std::size_t find(LoopedFields fields, std::string_view tag,
+                                         bool isClose) const {
     auto const nameAt = std::size_t{isClose ? 2U : 1U};
     auto const number = slots_[slotOf(tag[nameAt], tag.size() - nameAt - 1)];
     if (number == none)
       return none;
-    auto const& field = fields_[number];
+    auto const& field = fields.begin()[number];
     auto const expected = isClose ? field.close() : field.begin();
     auto const isSame =
         tag.size() == expected.size() && sameTag(tag.data(), expected.data(), tag.size());
@@ -42,7 +43,8 @@ public:
 
 private:
   constexpr std::size_t slotOf(char front, std::size_t nameSize) const {
-    return (static_cast<unsigned char>(front) * factor_ + nameSize) % std::size(slots_);
+    auto const key = static_cast<unsigned char>(front) * std::size_t{256} + nameSize;
+    return (key * factor_ >> 8) % std::size(slots_);
   }
 
   template <class Fields>
@@ -59,9 +61,8 @@ private:
     return true;
   }
 
-  FieldDescriptor const* fields_;
-  std::size_t factor_ = 1;
-  std::uint8_t slots_[64] = {};
+  std::uint16_t factor_ = 1;
+  std::uint8_t slots_[32] = {};
 };
 
 } // namespace journal

@@ -60,10 +60,7 @@ struct OpsFor {
   static bool isEmpty(void const* calls) { return static_cast<Calls const*>(calls)->empty(); }
 
   template <auto const& fields>
-  static constexpr FieldIndex index{fields};
-
-  template <auto const& fields>
-  static constexpr RecordFields record = {fields, index<fields>, parse<fields>};
+  static constexpr RecordFields record = {fields, FieldIndex(fields), parse<fields>};
 
   static constexpr RecordOps ops = {record<Kind<Entry>::entry>,
                                     record<Kind<Entry>::call>,

@@ -17,7 +17,7 @@ struct FieldStates;
 /// The fields of a record, in the order in which they are written.
 struct RecordFields {
   LoopedFields list;
-  FieldIndex const& index;
+  FieldIndex index;
 
   /// Reads them strictly, from the field number `first` on. Unrolled where the code is built for
   /// speed.

@@ -58,7 +58,7 @@ public:
       auto const isClose = closes(tag);
       if (isClose && !isOpen())
         return true;
-      auto const number = fields_.index.find(tag, isClose);
+      auto const number = fields_.index.find(fields_.list, tag, isClose);
       if (number == FieldIndex::none)
         return true;
       parser_.goTo(tag.data() + tag.size());
@@ -141,7 +141,8 @@ void passOver(StrictParser& parser, std::string_view tag) {
 bool isMisplaced(std::string_view tag, RecordOps const& ops, FieldSet entryUnseen) {
   if (isStructure(tag))
     return true;
-  auto const number = closes(tag) ? FieldIndex::none : ops.entry.index.find(tag, false);
+  auto const number =
+      closes(tag) ? FieldIndex::none : ops.entry.index.find(ops.entry.list, tag, false);
   return number != FieldIndex::none && isIn(entryUnseen, number);
 }
 

@@ -27,7 +27,7 @@ std::string beginNotification(std::string_view method) {
 }
 
 void endNotification(std::string& message, std::string const& uniqueIdToDelete, Action action,
-                unsigned int handle) {
+                     unsigned int handle) {
   constexpr auto removed = element<word::UNIQUEIDTODELETE>;
   if (!uniqueIdToDelete.empty())
     append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
