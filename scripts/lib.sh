@@ -21,6 +21,7 @@ declare -A journal_packages=(
   [abi]="$native $mips binutils dwarves"
   [install]='binutils cmake g++ ninja-build pkg-config'
   [demo]='cmake g++ ninja-build'
+  [documents]="$native python3"
   [differential]=$native
   [mips-ubsan]=$mips
   [mips16]=$mips
