@@ -19,8 +19,9 @@ declare -A journal_packages=(
   [complexity]="$native gawk valgrind"
   [costs]="$native $mips gcc python3 valgrind"
   [abi]="$native $mips binutils dwarves"
-  [install]='binutils cmake g++ ninja-build pkg-config'
+  [consumers]="$mips binutils clang g++ make pkg-config"
   [demo]='cmake g++ ninja-build'
+  [documents]="$native python3"
   [differential]=$native
   [mips-ubsan]=$mips
   [mips16]=$mips
@@ -33,6 +34,7 @@ declare -A journal_packages=(
     libexpat1-dev libtinyxml2-dev libxml2-dev libprotobuf-dev protobuf-compiler'
   [charts]='gnuplot-nox'
   [coverage]="$native gcovr python3"
+  [bare-root]='debootstrap git'
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
   [mutate]="$native $mips python3"
 )

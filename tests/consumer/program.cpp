@@ -1,5 +1,6 @@
-// Uses an installed library: prints the surname that an entry comes back with after it was written
-// and read, then the tag that the entry's message carries. Constants are used from the program too.
+// What every consumer here builds: prints the surname that an entry comes back with after it was
+// written and read, then the tag that the entry's message carries. Constants are used from the
+// program too.
 #include <JournalServiceHelper.h>
 
 #include <iostream>
