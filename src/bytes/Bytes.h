@@ -64,13 +64,24 @@ struct Pair {
 
 #ifdef __SSE2__
 
-/// A block of bytes that is compared at once.
+/// 16 bytes that are compared at once.
 struct Half {
   static constexpr std::size_t size = 16;
+
   JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
+    return differing(left, right) == 0;
+  }
+  JOURNAL_INLINE static inline bool sameFront(char const* left, char const* right,
+                                              std::size_t front) {
+    return (differing(left, right) & ((1U << front) - 1)) == 0;
+  }
+
+private:
+  /// A bit for each byte.
+  JOURNAL_INLINE static inline unsigned differing(char const* left, char const* right) {
     auto const equal = _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<__m128i const*>(left)),
                                       _mm_loadu_si128(reinterpret_cast<__m128i const*>(right)));
-    return _mm_movemask_epi8(equal) == 0xffff;
+    return static_cast<unsigned>(_mm_movemask_epi8(equal)) ^ 0xffff;
   }
 };
 
@@ -89,11 +100,29 @@ struct Block {
 
 #else
 
-/// A block of bytes that is compared at once.
+/// Ones, then zeros: loaded from index size - n, a mask for the first n bytes.
+inline constexpr auto frontMasks = [] {
+  std::array<char, 32> masks{};
+  for (std::size_t at = 0; at < masks.size() / 2; ++at)
+    masks[at] = '\xff';
+  return masks;
+}();
+
+/// 16 bytes that are compared at once.
 struct Half {
-  static constexpr std::size_t size = 16;
+  static constexpr std::size_t size = frontMasks.size() / 2;
+
   JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
     return sameEnds<std::uint64_t>(left, right, size);
+  }
+  JOURNAL_INLINE static inline bool sameFront(char const* left, char const* right,
+                                              std::size_t front) {
+    auto const* const mask = frontMasks.data() + size - front;
+    std::uint64_t difference = 0;
+    for (std::size_t at = 0; at < size; at += sizeof difference)
+      difference |= (load<std::uint64_t>(left + at) ^ load<std::uint64_t>(right + at)) &
+                    load<std::uint64_t>(mask + at);
+    return difference == 0;
   }
 };
 
@@ -160,29 +189,14 @@ JOURNAL_INLINE inline bool sameTag(char const* left, char const* right, std::siz
 }
 
 /// How many bytes sameFront loads.
-inline constexpr std::size_t frontSize = 16;
-
-namespace detail {
-/// Ones, then zeros: loaded from index frontSize - n, a mask for the first n bytes.
-inline constexpr auto frontMasks = [] {
-  std::array<char, 2 * frontSize> masks{};
-  for (std::size_t at = 0; at < frontSize; ++at)
-    masks[at] = '\xff';
-  return masks;
-}();
-} // namespace detail
+inline constexpr std::size_t frontSize = detail::Half::size;
 
 /// Compares the first `size` bytes, at most frontSize. frontSize bytes must be readable at both
 /// places.
 JOURNAL_INLINE inline bool sameFront(char const* left, char const* right, std::size_t size) {
   if (!builtForSpeed)
     return std::char_traits<char>::compare(left, right, size) == 0;
-  auto const* const mask = detail::frontMasks.data() + frontSize - size;
-  std::uint64_t difference = 0;
-  for (std::size_t at = 0; at < frontSize; at += sizeof difference)
-    difference |= (load<std::uint64_t>(left + at) ^ load<std::uint64_t>(right + at)) &
-                  load<std::uint64_t>(mask + at);
-  return difference == 0;
+  return detail::Half::sameFront(left, right, size);
 }
 
 /// Copies bytes of a size that is only known at run time and usually small.
