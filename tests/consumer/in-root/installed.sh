@@ -17,7 +17,7 @@ cmake -S /project/tests/consumer/find-package -B found
 cmake --build found
 [ "$(found/program)" = "$expected" ]
 
-apt-get remove -y $names
+dpkg --remove $names
 [ -z "$(dpkg -L libjournalservicehelper1 2>/dev/null)" ]
-apt-get purge -y $names
+dpkg --purge $names
 diff <(echo "$before") <(everything)
