@@ -14,6 +14,7 @@ A comment in front of a block says more, several things separated by semicolons:
   <!-- block: continues -->       the blocks of its language above it come first
   <!-- block: with FILE -->       cpp: this file is included first, for example with fakes
   <!-- block: file NAME -->       written to a file instead
+  <!-- block: then COMMAND -->    a command that readers know to run, such as building that file
   <!-- block: prints -->          it is what the block before it printed
   <!-- block: exits CODE -->      it ends with this exit code
   <!-- block: label LABEL -->     run only where this label is asked for, and then alone
@@ -78,7 +79,7 @@ class Block:
         said = SAYS.search(whole, 0, found.start())
         words = [word.strip().partition(' ') for word in said[1].split(';')] if said else []
         self.says = {word: rest for word, _, rest in words}
-        unknown = self.says.keys() - {'continues', 'with', 'file', 'prints', 'exits', 'label', 'skip'}
+        unknown = self.says.keys() - {'continues', 'with', 'file', 'prints', 'exits', 'label', 'skip', 'then'}
         if unknown:
             sys.exit(f'{self.place()}: unknown: {", ".join(unknown)}')
 
@@ -129,6 +130,12 @@ def console(block):
     return commands
 
 
+def follow(block):
+    """What comes behind a file: a command, begun and ended as if it were a block."""
+    text = block.says.get('then')
+    return text and f'begin {shlex.quote(block.place())}\n{text} || exit\nend\n' or ''
+
+
 def command(block, earlier):
     """The command that runs a block, as its lines of the script."""
     exits = block.says.get('exits')
@@ -165,7 +172,8 @@ def script(blocks, label):
             yield f'place={shlex.quote(block.place())}\n' + write('"$folder/expected"', block.text)
             yield 'same "$folder/expected"\n'
         elif 'file' in block.says:
-            yield write(shlex.quote(block.says['file']), block.text)
+            name = shlex.quote(block.says['file'])
+            yield f'mkdir -p "$(dirname {name})"\n' + write(name, block.text) + follow(block)
         elif block.language not in NO_LANGUAGE:
             yield f'begin {shlex.quote(block.place())}\n{command(block, earlier)}end\n'
             earlier.append(block)

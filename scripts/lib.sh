@@ -18,8 +18,12 @@ declare -A journal_packages=(
   [mips]=$mips
   [complexity]="$native gawk valgrind"
   [costs]="$native $mips gcc python3 valgrind"
-  [abi]="$native $mips binutils dwarves"
+  [abi]="$native $mips binutils dpkg-dev dwarves"
   [consumers]="$mips binutils clang g++ make pkg-config"
+  [packages]="cmake debhelper g++ git lintian ninja-build pkg-config python3 $mips"
+  [packages-in-roots]='debootstrap git python3'
+  [package]='cmake debhelper g++ git ninja-build'
+  [package-mips]=$mips
   [demo]='cmake g++ ninja-build'
   [documents]="$native python3"
   [differential]=$native
@@ -66,6 +70,22 @@ configure() {
 # build PRESET [TARGET...]: configures and builds all of it, or these targets.
 build() {
   configure "$1" && quietly cmake --build "build/$1" ${2:+--target "${@:2}"}
+}
+
+# version: the project's, which the public header has.
+version() {
+  sed -n 's/#define JOURNALSERVICEHELPER_VERSION "\(.*\)"/\1/p' \
+    "$journal_root/include/JournalServiceHelper.h"
+}
+
+# copy_tree FOLDER: the project's files as they are now, committed or not, into a new folder. Reading
+# a project of another user, as root does, has to be allowed.
+copy_tree() {
+  mkdir -p "$1"
+  git -C "$journal_root" -c safe.directory="$journal_root" \
+    ls-files -z -co --exclude-standard |
+    tar -C "$journal_root" -c --null -T - --ignore-failed-read 2>/dev/null |
+    tar -C "$1" -x --no-same-owner
 }
 
 # quietly COMMAND...: shows what it printed only when it fails.
