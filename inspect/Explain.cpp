@@ -211,9 +211,18 @@ private:
     open.pop_back();
     Rows const& rows = *part.rows;
     for (std::size_t row = 0; row < rows.size() && part.closed; ++row)
-      if (rows[row].count == Count::must && (part.seen >> row & 1) == 0 && !isEmptyAt(part))
-        find(RuleId::missing, part.name.empty() ? offset : part.offset, rows[row].name, part.name,
+      if (rows[row].count == Count::must && (part.seen >> row & 1) == 0 && !isEmptyAt(part) &&
+          !(part.name.empty() && isFoundElsewhere(rows[row].name)))
+        find(RuleId::missing, part.name.empty() ? offset : part.offset, rows[row].name,
+             part.name.empty() ? std::string() : "in " + std::string(part.name),
              defaultOf(part, rows[row].name));
+  }
+
+  /// Readers find an element of the message wherever it is.
+  bool isFoundElsewhere(std::string_view element) const {
+    return std::any_of(result.pieces.begin(), result.pieces.end(), [&](Piece const& piece) {
+      return piece.element == element && piece.stored;
+    });
   }
 
   bool isEmptyAt(Part const& part) const {
@@ -246,7 +255,7 @@ private:
       return findElement(piece.element, result.identity.log);
     Row const* const row = findRow(*part.rows, piece.element);
     if (row == nullptr) {
-      note(RuleId::misplaced, piece, part.name);
+      note(RuleId::misplaced, piece, part.name.empty() ? "" : "in " + std::string(part.name));
       return findElement(piece.element, result.identity.log);
     }
     advance(part, static_cast<std::size_t>(row - part.rows->data()), piece);
@@ -259,7 +268,7 @@ private:
     if (again && row.count != Count::many)
       note(RuleId::repeated, piece, piece.raw);
     else if (index < part.furthest)
-      note(RuleId::order, piece, (*part.rows)[part.furthest].name);
+      note(RuleId::order, piece, "behind " + std::string((*part.rows)[part.furthest].name));
     part.seen |= std::uint64_t{1} << index;
     part.furthest = std::max(part.furthest, index);
   }

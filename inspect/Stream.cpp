@@ -80,7 +80,8 @@ bool Stream::next(Found& found) {
     if (tooLarge_ || result == Step::wait)
       return false;
     emit(found);
-    if (!found.text.empty())
+    // A tag alone in other text is no message.
+    if (!found.text.empty() && (!*scan_ || found.text.find("</") != npos))
       return true;
   }
   return false;
