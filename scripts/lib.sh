@@ -6,7 +6,7 @@ journal_jobs=$(nproc)
 
 # The Debian packages of each script and of each stage of scripts/test. Everything that a build
 # looks for is listed, because CMake silently leaves out what it does not find.
-native='cmake g++ ninja-build libgtest-dev libcli11-dev'
+native='cmake g++ ninja-build libgtest-dev libcli11-dev libfmt-dev rapidjson-dev zlib1g-dev'
 emulated='cmake ninja-build googletest qemu-user'
 mips="$emulated g++-mips-linux-gnu"
 declare -A journal_packages=(
