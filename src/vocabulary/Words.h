@@ -2,11 +2,28 @@
 #ifndef JOURNAL_VOCABULARY_WORDS_H
 #define JOURNAL_VOCABULARY_WORDS_H
 
+#include <cstddef>
 #include <string_view>
 
 namespace journal::word {
 
-#define WORD(NAME, text) inline constexpr std::string_view NAME = text;
+/// Every word that has a public constant, each with a NUL behind it: one text, so that each word
+/// exists once in the library, and two bytes tell where it is.
+inline constexpr char texts[] =
+#define WORD(NAME, text) text "\0"
+#include "vocabulary/Words.def"
+    ;
+
+namespace detail {
+/// Where each word is in `texts`.
+struct Layout {
+#define WORD(NAME, text) char NAME[sizeof text];
+#include "vocabulary/Words.def"
+};
+} // namespace detail
+
+#define WORD(NAME, text)                                                                           \
+  inline constexpr std::string_view NAME{texts + offsetof(detail::Layout, NAME), sizeof text - 1};
 #include "vocabulary/Words.def"
 
 // Words without a public constant.
