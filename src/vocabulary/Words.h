@@ -3,6 +3,7 @@
 #define JOURNAL_VOCABULARY_WORDS_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace journal::word {
@@ -34,5 +35,20 @@ inline constexpr std::string_view ENABLED_TRUE = "true"; // lower case in the st
 inline constexpr std::string_view DIGITS = "0123456789";
 
 } // namespace journal::word
+
+namespace journal {
+
+/// A word with a public constant, by where it is. Passing it on takes fewer instructions than
+/// passing a view.
+enum class Word : std::uint16_t {
+#define WORD(NAME, text) NAME = offsetof(word::detail::Layout, NAME),
+#include "vocabulary/Words.def"
+};
+
+inline std::string_view textOf(Word word) {
+  return word::texts + static_cast<std::size_t>(word);
+}
+
+} // namespace journal
 
 #endif
