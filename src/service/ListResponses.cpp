@@ -32,10 +32,9 @@ void raiseSizeHint(std::size_t size) {
 std::string listResponse(LogKind kind, Word method, void const* log, unsigned int handle) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
-  append(message, {element<word::METHOD>.begin(), textOf(method), element<word::METHOD>.close()});
+  append(message, element<word::METHOD>, textOf(method));
   erased::appendLog(kind, log, message);
-  append(message,
-         {element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
+  append(message, element<word::HANDLE>, handleText(handle));
   raiseSizeHint(message.size());
   return message;
 }

@@ -26,12 +26,10 @@ std::string entryUpdate(LogKind kind, Word method, void const* entry,
   auto message = joined({word::XMLHEADER, element<word::METHOD>.begin(), textOf(method),
                          element<word::METHOD>.close()});
   erased::appendEntryBody(kind, entry, message);
-  constexpr auto removed = element<word::UNIQUEIDTODELETE>;
   if (!uniqueIdToDelete.empty())
-    append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
-  append(message,
-         {element<word::ACTIONTYPE>.begin(), digitOf(action), element<word::ACTIONTYPE>.close(),
-          element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
+    append(message, element<word::UNIQUEIDTODELETE>, uniqueIdToDelete);
+  append(message, element<word::ACTIONTYPE>, digitOf(action));
+  append(message, element<word::HANDLE>, handleText(handle));
   return message;
 }
 
