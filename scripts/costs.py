@@ -49,6 +49,35 @@ def footprint():
     return rows
 
 
+# ---- What the library for the device consists of
+
+PARTS = {  # the rows -> sections
+    'names of symbols': ('.dynstr',),
+    'tables of symbols': ('.dynsym', '.hash', '.gnu.version', '.gnu.version_r'),
+    'addresses, filled in when it is loaded': ('.got', '.rel.dyn', '.MIPS.stubs', '.dynamic'),
+    'unwinding': ('.eh_frame', '.eh_frame_hdr', '.gcc_except_table'),
+    'constructing and destroying the constants': (),
+    'other code': ('.text',),
+    'texts and descriptors': ('.rodata', '.data.rel.ro', '.data', '.sdata'),
+}
+CONSTANTS = re.compile(r'^\w+ (\w+) t (?:_GLOBAL__sub_[ID]_Constants\.cpp|.*::next(?:Word|Tag)\(\))$', re.M)
+
+
+def parts():
+    """Bytes of text and data of the MIPS MinSizeRel library: row -> bytes."""
+    prefix, preset = LIBRARIES['MIPS MinSizeRel']
+    stripped = WORK / f'{preset}.so'
+    sections = dict(re.findall(r'^(\.\S+) +(\d+)', output_of(prefix + 'size', '-A', stripped), re.M))
+    sizes = {row: sum(int(sections[name]) for name in names) for row, names in PARTS.items()}
+    symbols = output_of(prefix + 'nm', '-SC', f'build/{preset}/src/libJournalServiceHelper.so')
+    constants = sum(int(size, 16) for size in CONSTANTS.findall(symbols))
+    sizes['constructing and destroying the constants'] = constants
+    sizes['other code'] -= constants
+    all_bytes = sum(map(int, output_of(prefix + 'size', stripped).splitlines()[1].split()[:2]))
+    sizes['everything else'] = all_bytes - sum(sizes.values())
+    return {row: [size] for row, size in sizes.items()}
+
+
 # ---- Instructions
 
 def on_mips(library):
@@ -154,6 +183,7 @@ def stack():
 
 TABLES = {  # mark in the document -> heads of the columns, what measures the rows
     'footprint': (('library', 'text', 'data', 'both'), footprint),
+    'parts': (('part', 'bytes'), parts),
     'instructions': (('operation', 'MIPS Release', 'MIPS MinSizeRel', 'x86-64 Release'), instructions),
     'stack': (('operation', 'MIPS Release', 'MIPS MinSizeRel'), stack),
 }

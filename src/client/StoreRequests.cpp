@@ -7,9 +7,9 @@ using namespace journal;
 
 namespace {
 
-std::string request(std::string_view kind, std::string_view schemaName) {
+std::string request(Word kind, Word schemaName) {
   constexpr auto reason = element<word::REASONFORMESSAGE>;
-  return enveloped({reason.begin(), kind, reason.close()}, schemaName);
+  return enveloped({reason.begin(), textOf(kind), reason.close()}, textOf(schemaName));
 }
 
 } // namespace
@@ -17,37 +17,37 @@ std::string request(std::string_view kind, std::string_view schemaName) {
 // The schema alone tells the store what to read: an element without a value is not written. It is
 // the settings' schema, not DAS_CALLLOGENABLEDSTATE.
 std::string JournalServiceHelper::readEnabledState() {
-  return request(word::READREQUEST, word::SETTINGS_SCHEMA);
+  return request(Word::READREQUEST, Word::SETTINGS_SCHEMA);
 }
 
 std::string JournalServiceHelper::readMissedCallList() {
-  return request(word::READREQUEST, word::DAS_CALLLOGMISSEDCALLS);
+  return request(Word::READREQUEST, Word::DAS_CALLLOGMISSEDCALLS);
 }
 
 std::string JournalServiceHelper::deleteMissedCallList() {
-  return request(word::DELETEREQUEST, word::DAS_CALLLOGMISSEDCALLS);
+  return request(Word::DELETEREQUEST, Word::DAS_CALLLOGMISSEDCALLS);
 }
 
 std::string JournalServiceHelper::readDialledCallList() {
-  return request(word::READREQUEST, word::DAS_CALLLOGDIALLEDCALLS);
+  return request(Word::READREQUEST, Word::DAS_CALLLOGDIALLEDCALLS);
 }
 
 std::string JournalServiceHelper::deleteDialledCallList() {
-  return request(word::DELETEREQUEST, word::DAS_CALLLOGDIALLEDCALLS);
+  return request(Word::DELETEREQUEST, Word::DAS_CALLLOGDIALLEDCALLS);
 }
 
 std::string JournalServiceHelper::readReceivedCallList() {
-  return request(word::READREQUEST, word::DAS_CALLLOGRECEIVEDCALLS);
+  return request(Word::READREQUEST, Word::DAS_CALLLOGRECEIVEDCALLS);
 }
 
 std::string JournalServiceHelper::deleteReceivedCallList() {
-  return request(word::DELETEREQUEST, word::DAS_CALLLOGRECEIVEDCALLS);
+  return request(Word::DELETEREQUEST, Word::DAS_CALLLOGRECEIVEDCALLS);
 }
 
 std::string JournalServiceHelper::readForwardedCallList() {
-  return request(word::READREQUEST, word::DAS_CALLLOGFORWARDEDCALLS);
+  return request(Word::READREQUEST, Word::DAS_CALLLOGFORWARDEDCALLS);
 }
 
 std::string JournalServiceHelper::deleteForwardedCallList() {
-  return request(word::DELETEREQUEST, word::DAS_CALLLOGFORWARDEDCALLS);
+  return request(Word::DELETEREQUEST, Word::DAS_CALLLOGFORWARDEDCALLS);
 }

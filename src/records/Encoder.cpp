@@ -13,7 +13,7 @@ void erased::appendEntryBody(LogKind kind, void const* entry, std::string& out) 
 
 void erased::appendUniqueId(std::string const& uniqueId, std::string& out) {
   if (!uniqueId.empty())
-    append(out, {element<word::UNIQUEID>.begin(), uniqueId, element<word::UNIQUEID>.close()});
+    append(out, element<word::UNIQUEID>, uniqueId);
 }
 
 void erased::appendCalls(LogKind kind, void const* entry, std::string& out) {

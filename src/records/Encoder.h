@@ -4,7 +4,6 @@
 #ifndef JOURNAL_RECORDS_ENCODER_H
 #define JOURNAL_RECORDS_ENCODER_H
 
-#include <deque>
 #include <string>
 
 #include "records/Kinds.h"
@@ -17,6 +16,7 @@ namespace erased {
 void appendEntryBody(LogKind kind, void const* entry, std::string& out);
 void appendUniqueId(std::string const& uniqueId, std::string& out);
 void appendCalls(LogKind kind, void const* entry, std::string& out);
+/// Appends a log, one Entry per entry.
 void appendLog(LogKind kind, void const* log, std::string& out);
 } // namespace erased
 
@@ -33,12 +33,6 @@ void appendEntryBody(Entry const& entry, std::string& out, bool uniqueIdOnly) {
 template <class Entry>
 void appendCalls(Entry const& entry, std::string& out) {
   erased::appendCalls(kindOf<Entry>, &entry, out);
-}
-
-/// Appends a log, one Entry per entry.
-template <class Entry>
-void appendLog(std::deque<Entry> const& log, std::string& out) {
-  erased::appendLog(kindOf<Entry>, &log, out);
 }
 
 } // namespace journal

@@ -56,8 +56,8 @@ struct Kind<MissedCallItem> {
   static constexpr auto kind = LogKind::missed;
   using Entry = MissedCallItem;
   using Call = MissedCallItem::MissedCallInfo;
-  static constexpr auto& method = word::GETMISSEDCALLLIST_XML;
-  static constexpr auto& update = word::MISSEDCALLSUPDATE_XML;
+  static constexpr auto method = Word::GETMISSEDCALLLIST_XML;
+  static constexpr auto update = Word::MISSEDCALLSUPDATE_XML;
 
   static constexpr FieldDescriptor entry[] = {
       FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
@@ -93,8 +93,8 @@ struct Kind<DialledCallItem> {
   static constexpr auto kind = LogKind::dialled;
   using Entry = DialledCallItem;
   using Call = DialledCallItem::DialledCallInfo;
-  static constexpr auto& method = word::GETDIALLEDCALLLIST_XML;
-  static constexpr auto& update = word::DIALLEDCALLSUPDATE_XML;
+  static constexpr auto method = Word::GETDIALLEDCALLLIST_XML;
+  static constexpr auto update = Word::DIALLEDCALLSUPDATE_XML;
 
   static constexpr FieldDescriptor entry[] = {
       FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
@@ -130,8 +130,8 @@ struct Kind<ReceivedCallItem> {
   static constexpr auto kind = LogKind::received;
   using Entry = ReceivedCallItem;
   using Call = ReceivedCallItem::ReceivedCallInfo;
-  static constexpr auto& method = word::GETRECEIVEDCALLLIST_XML;
-  static constexpr auto& update = word::RECEIVEDCALLSUPDATE_XML;
+  static constexpr auto method = Word::GETRECEIVEDCALLLIST_XML;
+  static constexpr auto update = Word::RECEIVEDCALLSUPDATE_XML;
 
   static constexpr FieldDescriptor entry[] = {
       FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),
@@ -170,8 +170,8 @@ struct Kind<ForwardedCallItem> {
   static constexpr auto kind = LogKind::forwarded;
   using Entry = ForwardedCallItem;
   using Call = ForwardedCallItem::ForwardedCallInfo;
-  static constexpr auto& method = word::GETFORWARDEDCALLLIST_XML;
-  static constexpr auto& update = word::FORWARDEDCALLSUPDATE_XML;
+  static constexpr auto method = Word::GETFORWARDEDCALLLIST_XML;
+  static constexpr auto update = Word::FORWARDEDCALLSUPDATE_XML;
 
   static constexpr FieldDescriptor entry[] = {
       FIELD(Entry, UNIQUEID, uniqueId),         FIELD(Entry, ENTRYID, entryId),

@@ -29,29 +29,34 @@ struct OpsFor {
   static_assert(RecordWriter::canWrite(Kind<Entry>::entry) &&
                 RecordWriter::canWrite(Kind<Entry>::call));
 
+  // Fields unrolled. Built for size, nothing uses these two functions.
   template <auto const& fields>
   static bool parse(StrictParser& parser, void* record, FieldReader& reader, FieldStates& states,
                     std::size_t first) {
-    return parseFields(fieldList<fields>(), parser, record, reader, states, first);
+    return parseFields(UnrolledFields<fields>(), parser, record, reader, states, first);
   }
   static void writeEntryFields(RecordWriter& writer, void const* entry) {
-    writer.append("", fieldList<Kind<Entry>::entry>(), entry, "");
+    writer.append("", UnrolledFields<Kind<Entry>::entry>(), entry, "");
   }
+
   static void writeCalls(RecordWriter& writer, void const* entry) {
     for (auto const& call : static_cast<Entry const*>(entry)->callInfoList)
-      writer.append(element<word::ITEM>.begin(), fieldList<Kind<Entry>::call>(), &call,
-                    element<word::ITEM>.close());
+      writer.appendCall(fieldList<Kind<Entry>::call>(), &call);
   }
   static void writeEntries(RecordWriter& writer, void const* log) {
     for (auto const& entry : *static_cast<Log const*>(log))
       writer.appendEntry(&entry);
   }
 
-  static void clearLog(void* log) { static_cast<Log*>(log)->clear(); }
   static void* appendEntry(void* log) {
     return &static_cast<Log*>(log)->emplace_back(Defaults<Entry>());
   }
   static void dropLastEntry(void* log) { static_cast<Log*>(log)->pop_back(); }
+  // Four instantiations of clear() would take 1.3 KB more on the device.
+  static void clearLog(void* log) {
+    while (!static_cast<Log*>(log)->empty())
+      dropLastEntry(log);
+  }
   static void* callsOf(void* entry) { return &static_cast<Entry*>(entry)->callInfoList; }
   static void clearCalls(void* calls) { static_cast<Calls*>(calls)->clear(); }
   static void* appendCall(void* calls) {
@@ -60,12 +65,13 @@ struct OpsFor {
   static bool isEmpty(void const* calls) { return static_cast<Calls const*>(calls)->empty(); }
 
   template <auto const& fields>
-  static constexpr RecordFields record = {fields, FieldIndex(fields), parse<fields>};
+  static constexpr RecordFields record = {fields, FieldIndex(fields),
+                                          builtForSpeed ? parse<fields> : nullptr};
 
   static constexpr RecordOps ops = {record<Kind<Entry>::entry>,
                                     record<Kind<Entry>::call>,
                                     Kind<Entry>::callRead,
-                                    writeEntryFields,
+                                    builtForSpeed ? writeEntryFields : nullptr,
                                     writeCalls,
                                     writeEntries,
                                     clearLog,
@@ -78,6 +84,11 @@ struct OpsFor {
 };
 
 } // namespace
+
+bool parseLooped(LoopedFields fields, StrictParser& parser, void* record, FieldReader& reader,
+                 FieldStates& states, std::size_t first) {
+  return parseFields(fields, parser, record, reader, states, first);
+}
 
 RecordOps const& opsOf(LogKind kind) {
   static constexpr RecordOps const* ops[] = {

@@ -14,15 +14,23 @@ class RecordWriter;
 class StrictParser;
 struct FieldStates;
 
+/// Reads the fields of a record in a loop.
+bool parseLooped(LoopedFields fields, StrictParser& parser, void* record, FieldReader& reader,
+                 FieldStates& states, std::size_t first);
+
 /// The fields of a record, in the order in which they are written.
 struct RecordFields {
   LoopedFields list;
   FieldIndex index;
+  bool (*parseUnrolled)(StrictParser& parser, void* record, FieldReader& reader,
+                        FieldStates& states, std::size_t first); // built for speed only
 
-  /// Reads them strictly, from the field number `first` on. Unrolled where the code is built for
-  /// speed.
-  bool (*parse)(StrictParser& parser, void* record, FieldReader& reader, FieldStates& states,
-                std::size_t first);
+  /// Reads them strictly, from the field number `first` on.
+  bool parse(StrictParser& parser, void* record, FieldReader& reader, FieldStates& states,
+             std::size_t first) const {
+    return builtForSpeed ? parseUnrolled(parser, record, reader, states, first)
+                         : parseLooped(list, parser, record, reader, states, first);
+  }
 };
 
 /// The pointers are to records and containers of one kind: a log is a std::deque of entries, calls
@@ -32,8 +40,7 @@ struct RecordOps {
   RecordFields call;
   LoopedFields callRead; // a call's fields in the order in which plain searches read them
 
-  // Writing the fields, unrolled like reading.
-  void (*writeEntryFields)(RecordWriter& writer, void const* entry);
+  void (*writeUnrolledEntry)(RecordWriter& writer, void const* entry); // built for speed only
   void (*writeCalls)(RecordWriter& writer, void const* entry);
   void (*writeEntries)(RecordWriter& writer, void const* log);
 

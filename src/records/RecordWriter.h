@@ -43,7 +43,10 @@ public:
   }
 
   void appendEntryBody(void const* entry) {
-    ops_.writeEntryFields(*this, entry);
+    if (builtForSpeed)
+      ops_.writeUnrolledEntry(*this, entry);
+    else
+      append("", ops_.entry.list, entry, "");
     appendCalls(entry);
   }
 
@@ -54,6 +57,12 @@ public:
   }
 
   // ---- The fields of one record
+
+  /// Appends a call in its Item. Built for size, the same function for every kind.
+  template <class Fields>
+  JOURNAL_INLINE void appendCall(Fields fields, void const* call) {
+    append(element<word::ITEM>.begin(), fields, call, element<word::ITEM>.close());
+  }
 
   /// Appends a record's elements, without those of empty texts, between two tags.
   template <class Fields>

@@ -29,25 +29,19 @@ void raiseSizeHint(std::size_t size) {
     continue;
 }
 
-std::string beginResponse(std::string_view method) {
+std::string listResponse(LogKind kind, Word method, void const* log, unsigned int handle) {
   std::string message;
   message.reserve(listResponseSizeHint.load(std::memory_order_relaxed) + roomToGrow);
-  append(message, {element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
-  return message;
-}
-
-void endResponse(std::string& message, unsigned int handle) {
-  append(message,
-         {element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
+  append(message, element<word::METHOD>, textOf(method));
+  erased::appendLog(kind, log, message);
+  append(message, element<word::HANDLE>, handleText(handle));
   raiseSizeHint(message.size());
+  return message;
 }
 
 template <class Entry>
 std::string listResponse(std::deque<Entry> const& log, unsigned int handle) {
-  auto message = beginResponse(Kind<Entry>::method);
-  appendLog(log, message);
-  endResponse(message, handle);
-  return message;
+  return listResponse(kindOf<Entry>, Kind<Entry>::method, &log, handle);
 }
 
 } // namespace

@@ -21,32 +21,26 @@ std::string_view digitOf(Action action) {
 }
 
 // Not enveloped: everything that follows is appended behind the declaration.
-std::string beginNotification(std::string_view method) {
-  return joined(
-      {word::XMLHEADER, element<word::METHOD>.begin(), method, element<word::METHOD>.close()});
-}
-
-void endNotification(std::string& message, std::string const& uniqueIdToDelete, Action action,
-                     unsigned int handle) {
-  constexpr auto removed = element<word::UNIQUEIDTODELETE>;
+std::string entryUpdate(LogKind kind, Word method, void const* entry,
+                        std::string const& uniqueIdToDelete, Action action, unsigned int handle) {
+  auto message = joined({word::XMLHEADER, element<word::METHOD>.begin(), textOf(method),
+                         element<word::METHOD>.close()});
+  erased::appendEntryBody(kind, entry, message);
   if (!uniqueIdToDelete.empty())
-    append(message, {removed.begin(), uniqueIdToDelete, removed.close()});
-  append(message,
-         {element<word::ACTIONTYPE>.begin(), digitOf(action), element<word::ACTIONTYPE>.close(),
-          element<word::HANDLE>.begin(), handleText(handle), element<word::HANDLE>.close()});
+    append(message, element<word::UNIQUEIDTODELETE>, uniqueIdToDelete);
+  append(message, element<word::ACTIONTYPE>, digitOf(action));
+  append(message, element<word::HANDLE>, handleText(handle));
+  return message;
 }
 
 template <class Entry>
 std::string entryUpdate(Entry const& entry, std::string const& uniqueIdToDelete, Action action,
                         unsigned int handle) {
-  auto message = beginNotification(Kind<Entry>::update);
-  appendEntryBody(entry, message, false);
-  endNotification(message, uniqueIdToDelete, action, handle);
-  return message;
+  return entryUpdate(kindOf<Entry>, Kind<Entry>::update, &entry, uniqueIdToDelete, action, handle);
 }
 
-std::string counterUpdate(std::string_view method, unsigned int count) {
-  return enveloped({element<word::METHOD>.begin(), method, element<word::METHOD>.close(),
+std::string counterUpdate(Word method, unsigned int count) {
+  return enveloped({element<word::METHOD>.begin(), textOf(method), element<word::METHOD>.close(),
                     element<word::VALUE>.begin(), decimal(count), element<word::VALUE>.close()});
 }
 
@@ -77,9 +71,9 @@ std::string JournalServiceHelper::obsReqForwardedCallsUpdate(
 }
 
 std::string JournalServiceHelper::obsReqMissedCallsCountUpdate(unsigned int count) {
-  return counterUpdate(word::MISSEDCALLSCOUNTUPDATE_XML, count);
+  return counterUpdate(Word::MISSEDCALLSCOUNTUPDATE_XML, count);
 }
 
 std::string JournalServiceHelper::obsReqMissedGroupCallsUpdate(unsigned int count) {
-  return counterUpdate(word::MISSEDGROUPCALLSUPDATE_XML, count);
+  return counterUpdate(Word::MISSEDGROUPCALLSUPDATE_XML, count);
 }

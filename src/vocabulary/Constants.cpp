@@ -13,13 +13,8 @@ using namespace journal;
 // The constants are initialised in the order of Words.def, so each takes the next word or the next
 // tag. Passing every constructor its own text would take 1.9 KB more on the device.
 
-constexpr char words[] =
-#define WORD(NAME, text) text "\0"
-#include "vocabulary/Words.def"
-    ;
-
 [[gnu::noinline]] std::string nextWord() {
-  static char const* at = words;
+  static char const* at = word::texts;
   std::string word(at);
   at += word.size() + 1;
   return word;

@@ -18,4 +18,8 @@ void append(std::string& out, Texts texts) {
     out.append(text);
 }
 
+void append(std::string& out, Element element, std::string_view value) {
+  append(out, {element.begin(), value, element.close()});
+}
+
 } // namespace journal

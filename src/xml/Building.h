@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "vocabulary/Tags.h"
+
 namespace journal {
 
 using Texts = std::initializer_list<std::string_view>;
@@ -15,6 +17,9 @@ std::size_t sizeOf(Texts texts);
 
 /// Appends the texts in order.
 void append(std::string& out, Texts texts);
+
+/// Appends an element with a raw value.
+void append(std::string& out, Element element, std::string_view value);
 
 /// The texts as one.
 inline std::string joined(Texts texts) {

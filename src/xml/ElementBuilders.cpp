@@ -39,6 +39,6 @@ std::string JournalServiceHelper::createXMLEntryIDList(std::set<std::string> con
   std::string list;
   for (std::string const& id : ids)
     if (!id.empty())
-      append(list, {element<word::ENTRYID>.begin(), id, element<word::ENTRYID>.close()});
+      append(list, element<word::ENTRYID>, id);
   return list;
 }

@@ -1,4 +1,5 @@
 // Reads a whole message: its method, the unique id of its first entry, the call-log setting.
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -12,9 +13,22 @@ using namespace journal;
 
 namespace {
 
-struct Method {
-  std::string_view tag;
-  JournalServiceHelper::MethodCode code;
+// A method in four bytes.
+class Method {
+public:
+  constexpr Method(std::string_view tag, JournalServiceHelper::MethodCode code)
+      : offset_(static_cast<std::uint16_t>(tag.data() - word::texts)),
+        size_(static_cast<std::uint8_t>(tag.size())), code_(static_cast<std::uint8_t>(code)) {}
+
+  std::string_view tag() const { return {word::texts + offset_, size_}; }
+  JournalServiceHelper::MethodCode code() const {
+    return static_cast<JournalServiceHelper::MethodCode>(code_);
+  }
+
+private:
+  std::uint16_t offset_;
+  std::uint8_t size_;
+  std::uint8_t code_;
 };
 
 // In the order of the search, which differs from that of the codes and decides when a damaged
@@ -56,8 +70,8 @@ JournalServiceHelper::getMethodFromXMLMsg(std::string const& message) {
   // the message.
   auto const searched = std::string_view(message).substr(begin, close - begin);
   for (auto const& method : methods)
-    if (searched.find(method.tag) != std::string_view::npos)
-      return method.code;
+    if (searched.find(method.tag()) != std::string_view::npos)
+      return method.code();
   return UNKNOWN_METHOD;
 }
 

@@ -10,7 +10,7 @@ std::string JournalServiceHelper::respBool(bool success) {
 }
 
 bool JournalServiceHelper::addSuccessResp(std::string& message) {
-  append(message, {element<word::VALUE>.begin(), word::SUCCESS, element<word::VALUE>.close()});
+  append(message, element<word::VALUE>, word::SUCCESS);
   return true;
 }
 

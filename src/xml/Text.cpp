@@ -2,6 +2,7 @@
 #include "xml/Text.h"
 
 #include <cstddef>
+#include <iterator>
 #include <limits>
 
 #include "ClientUtils.h"
@@ -15,7 +16,18 @@ std::string unescaped(std::string_view raw) {
 }
 
 std::string decimal(unsigned int number) {
-  return std::to_string(static_cast<std::int32_t>(number));
+  auto const isNegative = static_cast<std::int32_t>(number) < 0;
+  auto magnitude = isNegative ? 0 - number : number;
+  char digits[sizeof "-2147483648"];
+  auto* const end = std::end(digits);
+  auto* at = end;
+  do {
+    *--at = static_cast<char>('0' + magnitude % 10);
+    magnitude /= 10;
+  } while (magnitude != 0);
+  if (isNegative)
+    *--at = '-';
+  return std::string(at, end);
 }
 
 std::string handleText(unsigned int handle) {
