@@ -4,7 +4,11 @@ include(GoogleTest)
 set(JOURNAL_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH
     "GoogleTest, as built for another architecture")
 if(NOT CMAKE_CROSSCOMPILING)
-  find_package(GTest CONFIG QUIET) # CMake's own module names the targets differently in each version
+  find_package(GTest QUIET)
+  if(TARGET GTest::GTest AND NOT TARGET GTest::gtest) # by the names of CMake before 3.20
+    add_library(GTest::gtest ALIAS GTest::GTest)
+    add_library(GTest::gtest_main ALIAS GTest::Main)
+  endif()
 elseif(EXISTS ${JOURNAL_GOOGLETEST_SOURCES}/CMakeLists.txt)
   set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
   set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
