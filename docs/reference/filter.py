@@ -78,6 +78,7 @@ def code(span):
     for character, written in (('\\', '\\\\'), ('&', '&amp;'), ('<', '&lt;'), ('>', '&gt;'), ('"', '&quot;'),
                                ("'", '&apos;'), ('::', '\\::'), ('#', '\\#'), ('@', '\\@')):
         text = text.replace(character, written)
+    text = re.sub('-{2,3}', r'\\\g<0>', text)
     return f'<code>{text}</code>'
 
 
