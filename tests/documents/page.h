@@ -1,0 +1,6 @@
+// What the pages in docs/ say that their fragments start with.
+#include <JournalServiceHelper.h>
+
+#include <cassert>
+
+using Helper = JournalServiceHelper;
