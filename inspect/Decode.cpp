@@ -202,13 +202,18 @@ std::optional<std::uint32_t> handleOf(Message const& message) {
   return {};
 }
 
-Decoded decode(std::string const& text, std::optional<Log> log) {
+Decoded read(std::string const& text, std::optional<Log> log) {
   Identity identity = identify(text);
   if (!identity.log && identity.kind == Kind::entry)
     identity.log = log;
   Decoded decoded{messageOf(identity, text), {}, identity.declared, {}};
   if (identity.kind == Kind::listResponse || identity.kind == Kind::entryNotification)
     decoded.outcome = outcomeBehind(text);
+  return decoded;
+}
+
+Decoded decode(std::string const& text, std::optional<Log> log) {
+  Decoded decoded = read(text, log);
   decoded.written = writtenIn(text, decoded.message);
   return decoded;
 }

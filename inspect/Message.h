@@ -139,7 +139,11 @@ struct Decoded {
   std::optional<bool> outcome; ///< Success or Failure, appended to a list or a notification
 };
 
+/// What readers store, without the written values: nearly as fast as the library itself.
 /// @param log to which a bare entry belongs that does not tell it. Without either, it is Unknown.
+Decoded read(std::string const& text, std::optional<Log> log = {});
+
+/// The same with the written values.
 Decoded decode(std::string const& text, std::optional<Log> log = {});
 
 /// The message as the library writes it, with the values that its writer was given.

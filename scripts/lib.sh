@@ -41,6 +41,8 @@ declare -A journal_packages=(
   [coverage]="$native gcovr python3"
   [bare-root]='debootstrap git'
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
+  [python]='cmake g++ ninja-build rapidjson-dev pybind11-dev python3-dev python3-pytest
+    python3-hypothesis python3-mypy mypy python3-build python3-setuptools python3-wheel python3-venv'
   [mutate]="$native $mips python3"
 )
 

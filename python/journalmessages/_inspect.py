@@ -1,0 +1,151 @@
+"""What the inspector tells about a message."""
+from __future__ import annotations
+
+from typing import Iterable, List, NamedTuple, Optional, Tuple, Union
+
+from . import _native
+from ._messages import EntryNotification, ListResponse
+from ._native import Kind, MethodCode, Severity
+from ._record import Message
+
+Data = Union[bytes, bytearray, memoryview, str]
+
+
+class Rule(NamedTuple):
+    """A rule that findings name."""
+
+    id: str
+    severity: Severity
+    what: str
+    why: str
+
+
+class Finding(NamedTuple):
+    """A place where a message differs from what the library writes."""
+
+    rule: str
+    severity: Severity
+    offset: int
+    element: str  # empty when it is about the message
+    text: str  # what is there
+    instead: str  # what readers get; empty when that is what is there
+    what: str
+    why: str
+
+    def __str__(self) -> str:
+        where = f" {self.element}" if self.element else ""
+        return f"{self.severity.name.lower()} at {self.offset}{where}: {self.what}: {self.text!r}"
+
+
+class Piece(NamedTuple):
+    """One piece of a message, in the order of its bytes."""
+
+    form: str  # declaration, part, end, leaf, begin tag, close tag or text
+    depth: int
+    offset: int
+    size: int
+    element: str
+    raw: str
+    stored: Optional[str]  # the value that readers store
+    reasons: Tuple[str, ...]  # the rules that say why the two differ
+
+
+class Difference(NamedTuple):
+    """One value in which two messages differ."""
+
+    entry: str  # its unique id; empty when it is about the message
+    field: str
+    left: Optional[str]  # None when that side lacks it
+    right: Optional[str]
+
+    def __str__(self) -> str:
+        where = " ".join(part for part in (self.entry, self.field) if part)
+        return f"{where}: {self.left!r} != {self.right!r}"
+
+
+class Identity(NamedTuple):
+    """What kind of message a text is."""
+
+    type: str  # unknown, request, listResponse, entryNotification, ...
+    method: str
+    code: MethodCode
+    kind: Optional[Kind]
+    declared: bool  # whether it starts with the XML declaration
+
+
+def rules() -> List[Rule]:
+    """All rules that findings and explanations name."""
+    return [Rule(*rule) for rule in _native.rules()]
+
+
+_rules = rules()
+
+
+def _data(message: Union[Data, Message]) -> Data:
+    return message.raw if isinstance(message, Message) else message
+
+
+def check(message: Union[Data, Message], kind: Optional[Kind] = None) -> List[Finding]:
+    """Everything in a message that the library would not have written, in the order of the bytes.
+
+    :param message: the bytes; of a message object its ``raw`` bytes are checked
+    :param kind: the log of a bare entry that does not tell it
+    :return: the findings, an empty list when there is nothing to remark
+
+    >>> import journalmessages as jm
+    >>> jm.check(jm.requests.subscribe())
+    []
+    >>> jm.check(b"<Value>Succes</Value>")[0].rule
+    'outcome-form'
+    """
+    findings = []
+    for rule, offset, element, text, instead in _native.check(_data(message), kind):
+        _, severity, what, why = _rules[rule]
+        findings.append(Finding(_rules[rule].id, severity, offset, element, text, instead, what, why))
+    return findings
+
+
+def explain(message: Union[Data, Message], kind: Optional[Kind] = None) -> List[Piece]:
+    """A message element by element: what is there, and which value readers store for it.
+
+    >>> import journalmessages as jm
+    >>> [piece.element for piece in jm.explain(b"<Value>Success</Value>")]
+    ['Value']
+    """
+    return [Piece(*piece) for piece in _native.explain(_data(message), kind)]
+
+
+def identify(message: Union[Data, Message]) -> Identity:
+    """What kind of message a text is, without decoding it; the type of no message is "unknown".
+
+    >>> import journalmessages as jm
+    >>> jm.identify(jm.requests.get_missed_call_list()).method
+    'getMissedCallList'
+    """
+    return Identity(*_native.identify(_data(message)))
+
+
+def diff(
+    left: Union[Data, Message], right: Union[Data, Message], ignore: Iterable[str] = ()
+) -> List[Difference]:
+    """The values in which two messages differ. Entries are matched by their unique ids.
+
+    :param left: bytes, or a message object as it is now
+    :param right: the same
+    :param ignore: names of fields that are not compared, as in JSON: "handle", "timeDate"
+    :return: the differences, an empty list when the records are equal
+
+    >>> import journalmessages as jm
+    >>> print(jm.diff(jm.ListResponse(jm.Kind.MISSED, handle=1), jm.ListResponse(jm.Kind.MISSED))[0])
+    handle: '1' != '0'
+    """
+    return [Difference(*found) for found in _native.diff(left, right, ignore)]
+
+
+def apply(notification: EntryNotification, log: ListResponse) -> Tuple[ListResponse, str]:
+    """A log after a notification, as a client keeps it: an added entry is in front.
+
+    :return: a new log, and what does not fit; an empty text when everything does
+    """
+    after, problem = _native.apply(notification, log)
+    return after, problem

@@ -1,0 +1,152 @@
+"""What decode gives for each kind of message, for damage and for other texts."""
+import threading
+import time
+
+import pytest
+
+import journalmessages as jm
+
+UPDATE = b'<?xml version="1.0" encoding="utf-8"?><Method><missedCallsUpdate></Method>'
+
+
+def notification(action):
+    return UPDATE + b"<Viewed>False</Viewed><LogList></LogList>" + action + b"<Handle>9</Handle>"
+
+
+def test_an_action_is_a_member():
+    note = jm.decode(notification(b"<ActionType>2</ActionType>"))
+    assert note.action is jm.Action.ENTRY_DELETED
+    assert (note.kind, note.handle) == (jm.Kind.MISSED, 9)
+
+
+def test_an_unnamed_action_is_an_int():
+    action = jm.decode(notification(b"<ActionType>7</ActionType>")).action
+    assert action == 7 and type(action) is int
+
+
+def test_an_absent_action_is_none():
+    note = jm.decode(notification(b""))
+    assert note.action is None
+    assert b"<ActionType>0</ActionType>" in jm.encode(note)
+
+
+def test_a_bare_entry_tells_its_log_or_needs_a_kind():
+    assert isinstance(jm.decode(jm.encode(jm.MissedEntry(surname="Berg"))), jm.MissedEntry)
+    text = b"<Surname>Berg</Surname>"
+    with pytest.raises(jm.NotAMessage, match="kind="):
+        jm.decode(text)
+    for kind in jm.Kind:
+        entry = jm.decode(text, kind)
+        assert (entry.kind, entry.surname, entry.raw) == (kind, "Berg", text)
+
+
+def test_raw_of_what_was_built_is_its_encoding():
+    entry = jm.MissedEntry(surname="Berg")
+    assert entry.raw == jm.encode(entry)
+    entry.surname = "Sohn"
+    assert b"Sohn" in entry.raw
+
+
+def test_raw_of_what_was_decoded_stays():
+    log = jm.decode(jm.responses.get_missed_call_list([jm.MissedEntry()], 7))
+    raw = log.raw
+    log.handle = 8
+    assert log.raw == raw != jm.encode(log)
+
+
+@pytest.mark.parametrize("text", [b"", "", "hello", b"\xff\x00", b"<Method></Method>", "x" * 1000])
+def test_other_texts_are_no_messages(text):
+    with pytest.raises(jm.NotAMessage) as error:
+        jm.decode(text)
+    assert error.value.data == text
+    assert len(str(error.value)) < 150
+
+
+@pytest.mark.parametrize("data", [None, 7, ["<Value>"]])
+def test_neither_bytes_nor_str(data):
+    with pytest.raises(TypeError):
+        jm.decode(data)
+
+
+def test_every_buffer_is_taken():
+    text = jm.responses.success()
+    for data in (bytearray(text), memoryview(text)):
+        assert jm.decode(data).raw == text
+
+
+def test_damage_decodes_as_the_library_does():
+    log = jm.decode(b"<Method><getMissedCallList></Method><Entry><Surname>A</Surname></Entry><Entry>")
+    assert [entry.surname for entry in log.entries] == ["A"]
+    assert log.handle == 0
+
+
+def test_strict_raises_with_the_findings():
+    text = jm.responses.get_missed_call_list([jm.MissedEntry()], 7)
+    assert jm.decode(text, strict=True).handle == 7
+    with pytest.raises(jm.DamagedMessage) as error:
+        jm.decode(text.replace(b"</Handle>", b""), strict=True)
+    assert error.value.findings == jm.check(text.replace(b"</Handle>", b""))
+    assert {finding.rule for finding in error.value.findings} >= {"unterminated"}
+    assert error.value.findings[0].severity is jm.Severity.ERROR
+
+
+def test_an_outcome_behind_a_list_is_kept():
+    log = jm.decode(jm.responses.get_missed_call_list([jm.MissedEntry()], 7) + jm.responses.success())
+    assert log.outcome is True
+    assert jm.encode(log) == log.raw
+
+
+@pytest.mark.parametrize("handle", [-1, 2**32])
+def test_a_handle_that_does_not_fit(handle):
+    with pytest.raises(ValueError, match="handle"):
+        jm.encode(jm.ListResponse(jm.Kind.MISSED, [], handle))
+
+
+def test_encode_takes_messages_alone():
+    for other in ("text", 7, jm.MissedCall()):
+        with pytest.raises(TypeError):
+            jm.encode(other)
+
+
+def test_the_inspector():
+    text = jm.requests.delete_missed_call("12")
+    assert jm.identify(text).code is jm.MethodCode.DELETEMISSEDCALL
+    assert jm.identify(text).kind is jm.Kind.MISSED
+    assert [piece.element for piece in jm.explain(text)][-1] == "EntryId"
+    (difference,) = jm.diff(text, jm.requests.delete_missed_call("7"))
+    assert (difference.field, difference.left, difference.right) == ("entryIds", "12", "7")
+    assert jm.diff(text, jm.requests.delete_missed_call("7"), ignore=["entryIds"]) == []
+    assert len({rule.id for rule in jm.rules()}) == len(jm.rules()) > 30
+
+
+def test_a_notification_applied_to_a_log():
+    log = jm.ListResponse(jm.Kind.MISSED, [jm.MissedEntry(unique_id="1")], 7)
+    added = jm.EntryNotification(jm.MissedEntry(unique_id="2"), jm.Action.ENTRY_ADDED, 8)
+    after, problem = jm.apply(added, log)
+    assert ([entry.unique_id for entry in after.entries], after.handle, problem) == (["2", "1"], 8, "")
+    assert len(log.entries) == 1
+    _, problem = jm.apply(added, after)
+    assert "already there" in problem
+
+
+def test_other_threads_run_while_decoding(journal_samples):
+    text = jm.responses.get_missed_call_list(journal_samples[jm.Kind.MISSED].entries * 3000)
+    moments = []
+    done = threading.Event()
+
+    def count():
+        while not done.wait(0.0005):
+            moments.append(time.perf_counter())
+
+    thread = threading.Thread(target=count)
+    thread.start()
+    spans = []
+    for _ in range(5):
+        start = time.perf_counter()
+        jm.decode(text)
+        spans.append((start, time.perf_counter() - start))
+    done.set()
+    thread.join()
+    # Without a release, the other thread runs at most once: between the clock and the call.
+    assert any(
+        sum(start < moment < start + span for moment in moments) >= 3 for start, span in spans)
