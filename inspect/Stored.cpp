@@ -14,7 +14,6 @@ namespace {
 using Api = JournalServiceHelper;
 namespace word = journal::word;
 using Form = Piece::Form;
-constexpr auto npos = std::string_view::npos;
 
 bool isEmptyPart(std::string_view text, Piece const& part) {
   return text.compare(part.offset + part.size, 2, "</") == 0 &&
@@ -46,6 +45,12 @@ public:
       entry_ = call_ = nullptr;
   }
 
+  /// Parts are judged by their own kind of record, even where damage puts them into another.
+  void* ownerOf(Piece const& piece) const {
+    if (piece.element == word::ITEM || (call_ != nullptr && piece.element != word::ENTRY))
+      return call_;
+    return entry_;
+  }
   void* entry() const { return entry_; }
   void* call() const { return call_; }
   bool isReliable() const { return !list_ || counted_ >= entries_.size(); }
@@ -157,7 +162,7 @@ private:
     for (std::size_t at = 0; at < pieces.size(); ++at) {
       Piece& piece = pieces[at];
       places.visit(piece);
-      owners[at] = places.call() != nullptr ? places.call() : places.entry();
+      owners[at] = places.ownerOf(piece);
       bool const value = piece.form == Form::leaf || piece.form == Form::beginTag;
       if (value && isHidden(piece))
         piece.reasons.push_back(RuleId::afterNul);
