@@ -32,6 +32,7 @@ void fact(Columns const&... columns) {
 char const* nameOf(journal::Content content) {
   static constexpr char const* names[] = {"text",       "flag",         "number type",
                                           "log target", "presentation", "time format"};
+  static_assert(std::size(names) == std::size(journal::enumerations));
   return names[static_cast<std::size_t>(content)];
 }
 
