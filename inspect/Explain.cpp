@@ -20,11 +20,6 @@ namespace word = journal::word;
 using Form = Piece::Form;
 constexpr auto npos = std::string_view::npos;
 
-/// Reasons that the walk below finds itself, with its own texts.
-bool isReported(RuleId rule) {
-  return ruleOf(rule).severity != Severity::none;
-}
-
 class Judge {
 public:
   Judge(std::string const& message, std::optional<Log> log) : text(message) {
@@ -115,6 +110,7 @@ private:
       tag(piece);
       break;
     case Form::closeTag:
+      reportReasons(piece);
       note(RuleId::strayClose, piece);
       break;
     default:
@@ -168,12 +164,17 @@ private:
       return;
     if (holdsElement(piece.raw))
       note(RuleId::holdsTag, piece, piece.raw, piece.stored.value_or(std::string()));
-    auto const reasons = piece.reasons;
-    for (RuleId const reason : reasons)
-      if (isReported(reason) && !isFound(reason, piece.offset))
-        note(reason, piece, piece.raw, piece.stored.value_or(std::string()));
+    reportReasons(piece);
     if (auto const rule = judge(*row, piece.raw, piece.stored))
       note(*rule, piece, piece.raw, piece.stored.value_or(std::string()));
+  }
+
+  /// The reasons for what is stored, as far as they are findings.
+  void reportReasons(Piece& piece) {
+    auto const reasons = piece.reasons;
+    for (RuleId const reason : reasons)
+      if (ruleOf(reason).severity != Severity::none && !isFound(reason, piece.offset))
+        note(reason, piece, piece.raw, piece.stored.value_or(std::string()));
   }
 
   bool isFound(RuleId rule, std::size_t offset) const {

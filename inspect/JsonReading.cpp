@@ -1,33 +1,15 @@
-#include <rapidjson/document.h>
-#include <rapidjson/error/en.h>
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
 #include <algorithm>
 
 #include "inspect/Format.h"
 #include "inspect/Json.h"
 #include "inspect/JsonNames.h"
+#include "inspect/JsonTree.h"
 
 namespace inspect {
 namespace {
 
 using Value = rapidjson::Value;
-
-std::string_view textOf(Value const& value) {
-  return {value.GetString(), value.GetStringLength()};
-}
-
-/// Parses without recursion: nesting depth is bounded by memory alone.
-bool parse(std::string_view json, rapidjson::Document& document, std::string& error) {
-  document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(
-      json.data(), json.size());
-  if (!document.HasParseError())
-    return true;
-  error = "offset " + std::to_string(document.GetErrorOffset()) + ": " +
-          rapidjson::GetParseError_En(document.GetParseError());
-  return false;
-}
+using json::textOf;
 
 std::optional<unsigned> digitOf(char character) {
   constexpr std::string_view digits = "0123456789abcdef";
@@ -376,52 +358,20 @@ private:
 
 } // namespace
 
-std::optional<Decoded> fromJson(std::string_view json, std::string& error) {
+std::optional<Decoded> fromJson(std::string_view text, std::string& error) {
   error.clear();
   rapidjson::Document document;
-  if (!parse(json, document, error))
+  if (!json::parse(text, document, error))
     return {};
   return Reader(error).message(document);
 }
 
-bool entryFromJson(std::string_view json, Entry& entry, std::string& error) {
+bool entryFromJson(std::string_view text, Entry& entry, std::string& error) {
   error.clear();
   rapidjson::Document document;
   std::vector<Written> written;
-  return parse(json, document, error) && Reader(error).entry(document, viewOf(entry), 0, written);
-}
-
-std::optional<std::string> valueAt(std::string const& json, std::string_view path,
-                                   std::string& error) {
-  rapidjson::Document document;
-  if (!parse(json, document, error))
-    return {};
-  Value const* value = &document;
-  while (!path.empty()) {
-    auto const size = std::min(path.find_first_of(".[]"), path.size());
-    auto const name = path.substr(0, size);
-    path.remove_prefix(std::min(size + 1, path.size()));
-    if (name.empty())
-      continue;
-    if (value->IsObject() && value->HasMember(std::string(name).c_str())) {
-      value = &(*value)[std::string(name).c_str()];
-      continue;
-    }
-    auto const isNumber = name.size() < 10 && name.find_first_not_of("0123456789") == name.npos;
-    auto const index =
-        static_cast<rapidjson::SizeType>(isNumber ? std::stoul(std::string(name)) : 0);
-    if (!value->IsArray() || !isNumber || index >= value->Size()) {
-      error = "there is no " + std::string(name) + " there";
-      return {};
-    }
-    value = &(*value)[index];
-  }
-  if (value->IsString())
-    return std::string(textOf(*value));
-  rapidjson::StringBuffer buffer;
-  rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-  value->Accept(writer);
-  return std::string(buffer.GetString(), buffer.GetSize());
+  return json::parse(text, document, error) &&
+         Reader(error).entry(document, viewOf(entry), 0, written);
 }
 
 } // namespace inspect

@@ -134,7 +134,7 @@ struct Written {
 
 struct Decoded {
   Message message;
-  std::vector<Written> written; ///< in the order of the message
+  std::vector<Written> written; ///< by entry, then by call, the entry's own first
   bool declared = false;
   std::optional<bool> outcome; ///< Success or Failure, appended to a list or a notification
 };

@@ -143,6 +143,7 @@ public:
   std::vector<void*> run() {
     std::vector<void*> owners(pieces.size());
     auto const entries = entriesOf(decoded.message);
+    noteHidden();
     if (!entries.empty()) {
       addCandidates(owners, entries);
       settleRecords(entries[0].log);
@@ -153,6 +154,21 @@ public:
 
 private:
   bool isHidden(Piece const& piece) const { return piece.offset > nul; }
+  static bool isValue(Piece const& piece) {
+    return piece.form == Form::leaf || piece.form == Form::beginTag;
+  }
+
+  /// Readers of records and of the setting stop at a NUL; those of single elements do not.
+  void noteHidden() {
+    bool const notification = identity.kind == Kind::entryNotification;
+    bool const records = notification || identity.kind == Kind::listResponse ||
+                         identity.kind == Kind::lastDialled || identity.kind == Kind::entry ||
+                         identity.kind == Kind::setting;
+    for (Piece& piece : pieces)
+      if (records && isValue(piece) && isHidden(piece) &&
+          (!notification || fits(*identity.log, piece.element)))
+        piece.reasons.push_back(RuleId::afterNul);
+  }
 
   void addCandidates(std::vector<void*>& owners, std::vector<RecordView> const& entries) {
     bool const list = identity.kind == Kind::listResponse;
@@ -163,11 +179,9 @@ private:
       Piece& piece = pieces[at];
       places.visit(piece);
       owners[at] = places.ownerOf(piece);
-      bool const value = piece.form == Form::leaf || piece.form == Form::beginTag;
-      if (value && isHidden(piece))
-        piece.reasons.push_back(RuleId::afterNul);
-      else if (auto const* field = fieldOf(callFields, piece.element);
-               value && field != nullptr && places.call() != nullptr)
+      bool const value = isValue(piece) && !isHidden(piece);
+      if (auto const* field = fieldOf(callFields, piece.element);
+          value && field != nullptr && places.call() != nullptr)
         candidates.push_back({places.call(), field, at});
       else if (auto const* own = fieldOf(entryFields, piece.element);
                value && own != nullptr && places.entry() != nullptr)

@@ -168,7 +168,24 @@ Stream::Step Stream::step() {
     return foundUpTo(lastEnd_);
   seen_.lines = seen_.lines || separated;
   take(at);
+  if (seen_.inEntry && !seen_.inValue)
+    skipEntry();
   return Step::goOn;
+}
+
+/// Goes over an entry at once when nothing in it can start or end a message.
+void Stream::skipEntry() {
+  auto const close = element<word::ENTRY>.close();
+  auto const end = findText(text_, close, from_);
+  if (end == npos)
+    return;
+  auto const entry = std::string_view(text_).substr(0, end);
+  bool const lines = findChar(entry, '\n', from_) != npos || findChar(entry, '\0', from_) != npos;
+  if (lines || findText(entry, element<word::METHOD>.begin(), from_) != npos ||
+      findText(entry, declaration, from_) != npos)
+    return;
+  from_ = end;
+  take(end);
 }
 
 /// One line end or NUL behind the last message is none of its bytes.
@@ -287,9 +304,9 @@ void Stream::emit(Found& found) {
 }
 
 void Stream::discard(std::size_t end) {
-  auto const begin = text_.begin();
-  line_ += static_cast<std::uint64_t>(std::count(begin + static_cast<std::ptrdiff_t>(head_),
-                                                 begin + static_cast<std::ptrdiff_t>(end), '\n'));
+  auto const taken = std::string_view(text_).substr(0, end);
+  for (auto at = findChar(taken, '\n', head_); at != npos; at = findChar(taken, '\n', at + 1))
+    ++line_;
   offset_ += end - head_;
   head_ = end;
 }

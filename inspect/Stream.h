@@ -84,6 +84,7 @@ private:
   bool isComplete() const;
   bool isWhole(std::size_t at) const;
   void take(std::size_t at);
+  void skipEntry();
   Step foundUpTo(std::size_t end);
   void emit(Found& found);
   void discard(std::size_t end);

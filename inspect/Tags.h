@@ -30,6 +30,15 @@ inline std::size_t findChar(std::string_view text, char character, std::size_t f
   return found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - text.data());
 }
 
+/// The same of a text.
+inline std::size_t findText(std::string_view text, std::string_view wanted, std::size_t from) {
+  if (from >= text.size())
+    return std::string_view::npos;
+  auto const* const found = static_cast<char const*>(
+      memmem(text.data() + from, text.size() - from, wanted.data(), wanted.size()));
+  return found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - text.data());
+}
+
 /// The first tag from an offset on; false when there is none.
 inline Tag nextTag(std::string_view text, std::size_t from) {
   for (auto at = findChar(text, '<', from); at != std::string_view::npos;

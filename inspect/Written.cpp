@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 #include "ClientUtils.h"
 #include "inspect/Format.h"
@@ -13,6 +14,7 @@ namespace {
 
 namespace word = journal::word;
 constexpr auto none = Written::none;
+constexpr auto npos = std::string_view::npos;
 
 /// What the finder has to know of each element of a log's records.
 struct Carried {
@@ -41,22 +43,41 @@ CarriedElements const& elementsOf(Log log) {
   return elements[static_cast<std::size_t>(log)];
 }
 
-/// Finds them in one pass. Entries and calls are counted.
+/// Finds them in one pass. Entries and calls are counted. Most tags are passed over by their first
+/// letter: only a value with an entity, and the fields that are not read back, can differ.
 class Finder {
 public:
   Finder(std::string_view message, Log log, bool list)
-      : text(message), elements(elementsOf(log)), isList(list), entry(list ? none : 0) {}
+      : text(message), elements(elementsOf(log)), isList(list), entry(list ? none : 0),
+        ampersand(findChar(message, '&', 0)) {
+    letters[letterOf(word::ENTRY)] = letters[letterOf(word::ITEM)] = true;
+    for (Field const& field : callFieldsOf(log))
+      if (field.travel == members::Travel::writtenOnly)
+        letters[letterOf(field.element)] = true;
+  }
 
   std::vector<Written> run(std::size_t entries) {
-    for (Tag tag = nextTag(text, 0); tag; tag = nextTag(text, tag.end))
-      if (!tag.close)
-        visit(tag);
+    for (auto at = findChar(text, '<', 0); at != npos;) {
+      auto const next = findChar(text, '<', at + 1);
+      bool const holdsEntity = ampersand < next;
+      if (at + 1 < text.size() && text[at + 1] != '/' &&
+          (holdsEntity || letters[letterOf(text.substr(at + 1))]))
+        if (Tag const tag = tagAt(text, at))
+          visit(tag);
+      if (holdsEntity)
+        ampersand = next == npos ? npos : findChar(text, '&', next);
+      at = next;
+    }
     if (entry + 1 != entries)
       found.clear();
     return std::move(found);
   }
 
 private:
+  static std::size_t letterOf(std::string_view name) {
+    return static_cast<unsigned char>(name.front());
+  }
+
   void visit(Tag const& tag) {
     Row const* const row = findElement(tag.name);
     if (row == nullptr)
@@ -97,10 +118,6 @@ private:
 
   /// A raw text changes only where it holds an entity.
   void addRaw(Tag const& tag, std::size_t index, Field const* field) {
-    auto const ampersand = findChar(text, '&', tag.end);
-    auto const bracket = findChar(text, '<', tag.end);
-    if (ampersand > bracket && text.substr(bracket, 2) == "</")
-      return;
     auto value = valueBehind(tag);
     if (ClientUtils::unescapeXMLString(value) != value)
       found.push_back({field == nullptr ? none : entry, index, field, std::move(value)});
@@ -122,6 +139,8 @@ private:
   bool isList;
   std::size_t entry;
   std::size_t call = none;
+  std::size_t ampersand; ///< the next one
+  std::array<bool, 256> letters{};
   std::vector<Written> found;
 };
 
@@ -172,6 +191,11 @@ std::vector<Written> writtenIn(std::string_view text, Message const& message) {
   for (Written const& written : found)
     if (written.field == nullptr)
       different.push_back(written);
+  // An entry's own values first, then those of its calls, each in the order of declaration.
+  std::stable_sort(different.begin(), different.end(), [](Written const& a, Written const& b) {
+    return std::make_tuple(a.entry, a.call + 1, a.field) <
+           std::make_tuple(b.entry, b.call + 1, b.field);
+  });
   return different;
 }
 

@@ -81,9 +81,10 @@ private:
     auto const decoded = decode(item.text(), options.log);
     Line line{{}, isRecognised(decoded)};
     std::string error;
-    if (!path.empty())
-      line.text = valueAt(toJson(decoded), path, error).value_or("") + (error.empty() ? "\n" : "");
-    else if (options.format == "jsonl")
+    if (!path.empty()) {
+      if (auto const value = valueAt(toJson(decoded), path, error))
+        line.text = *value + "\n";
+    } else if (options.format == "jsonl")
       appendJson(line.text, decoded), line.text += '\n';
     else if (options.format == "json")
       line.text = indented(toJson(decoded)) + "\n";
