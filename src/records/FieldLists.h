@@ -58,9 +58,10 @@ JOURNAL_INLINE_ONCE inline bool allOf(LoopedFields fields, std::size_t first, Vi
 
 /// Fields visited without a loop. Every tag is a constant of known size, so comparing or copying it
 /// takes a few instructions.
-template <auto const& fields>
+template <auto const& list>
 struct UnrolledFields {
-  using Indices = std::make_index_sequence<std::size(fields)>;
+  static constexpr auto const& fields = list;
+  using Indices = std::make_index_sequence<std::size(list)>;
 };
 
 namespace detail {
@@ -122,14 +123,15 @@ JOURNAL_INLINE_ONCE inline bool allOf(std::size_t first, Visit& visit,
 
 } // namespace detail
 
-template <auto const& fields, class Visit>
-JOURNAL_INLINE_ONCE inline void forEach(UnrolledFields<fields>, Visit visit) {
-  detail::forEach<fields>(visit, typename UnrolledFields<fields>::Indices());
+// g++ 10 does not deduce the fields themselves.
+template <class Unrolled, class Visit, class Indices = typename Unrolled::Indices>
+JOURNAL_INLINE_ONCE inline void forEach(Unrolled, Visit visit) {
+  detail::forEach<Unrolled::fields>(visit, Indices());
 }
 
-template <auto const& fields, class Visit>
-JOURNAL_INLINE_ONCE inline bool allOf(UnrolledFields<fields>, std::size_t first, Visit visit) {
-  return detail::allOf<fields>(first, visit, typename UnrolledFields<fields>::Indices());
+template <class Unrolled, class Visit, class Indices = typename Unrolled::Indices>
+JOURNAL_INLINE_ONCE inline bool allOf(Unrolled, std::size_t first, Visit visit) {
+  return detail::allOf<Unrolled::fields>(first, visit, Indices());
 }
 
 /// The fields as the code is built: unrolled for speed, in a loop for size.
