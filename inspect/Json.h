@@ -37,6 +37,9 @@ std::string toJson(Value const& value) {
 /// The same JSON with a line for each value.
 std::string indented(std::string const& json);
 
+/// The JSON schema (draft 4) of messages, as it is in message.schema.json.
+std::string messageSchema();
+
 /// Reads a message; members that are absent keep their defaults.
 /// @param error says what is wrong, and where, when there is no result
 std::optional<Decoded> fromJson(std::string_view json, std::string& error);

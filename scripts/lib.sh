@@ -24,7 +24,7 @@ declare -A journal_packages=(
   [packages-in-roots]='debootstrap git python3'
   [package]='build-essential cmake debhelper git ninja-build'
   [package-mips]=$mips
-  [demo]='cmake g++ ninja-build'
+  [demo]='cmake g++ ninja-build libcli11-dev libfmt-dev rapidjson-dev zlib1g-dev'
   [documents]="$native $mips binutils python3"
   [reference]="$native codespell doxygen doxygen-awesome-css groff-base man-db bsdextrautils python3"
   [differential]=$native
@@ -40,7 +40,7 @@ declare -A journal_packages=(
   [charts]='gnuplot-nox'
   [coverage]="$native gcovr python3"
   [bare-root]='debootstrap git'
-  [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
+  [fuzz]='cmake clang libclang-rt-14-dev ninja-build rapidjson-dev'
   [python]='cmake g++ ninja-build rapidjson-dev pybind11-dev python3-dev python3-pytest
     python3-hypothesis python3-mypy mypy python3-build python3-setuptools python3-wheel python3-venv'
   [web]='cmake emscripten esbuild ninja-build nodejs rapidjson-dev'

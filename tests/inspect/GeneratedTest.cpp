@@ -1,6 +1,10 @@
 // Generated messages of every kind: byte for byte back from JSON, and without findings.
 #include <gtest/gtest.h>
+#include <rapidjson/document.h>
+#include <rapidjson/schema.h>
 
+#include <fstream>
+#include <iterator>
 #include <random>
 #include <string>
 
@@ -101,6 +105,39 @@ TEST(Generated, MessagesComeBackFromJsonByteForByte) {
     ASSERT_EQ(encode(*back), text) << json;
     ASSERT_EQ(toJson(*back), json);
   }
+}
+
+std::string schemaInTheTree() {
+  std::ifstream file(JOURNAL_SCHEMA, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Generated, SchemaIsTheOneInTheTree) {
+  EXPECT_EQ(messageSchema(), schemaInTheTree())
+      << "journalmsg schema > inspect/message.schema.json";
+}
+
+TEST(Generated, MessagesFollowTheSchema) {
+  rapidjson::Document schema;
+  schema.Parse(schemaInTheTree().c_str());
+  ASSERT_FALSE(schema.HasParseError());
+  rapidjson::SchemaDocument const rules(schema);
+  auto const follows = [&](std::string const& json) {
+    rapidjson::Document document;
+    document.Parse(json.c_str());
+    rapidjson::SchemaValidator validator(rules);
+    return document.Accept(validator);
+  };
+  Generator generator(3);
+  for (int count = 0; count < 2000; ++count) {
+    auto const json = toJson(decode(encode(generator.message())));
+    ASSERT_TRUE(follows(json)) << json;
+  }
+  EXPECT_TRUE(follows(toJson(decode("\xFF"))));
+  EXPECT_TRUE(follows(toJson(decode("<CallLogEnabled>x</CallLogEnabled>"))));
+  EXPECT_FALSE(follows("{}"));
+  EXPECT_FALSE(follows(R"({"kind":"setting"})"));
+  EXPECT_FALSE(follows(R"({"kind":"setting","callLogEnabled":true,"more":1})"));
 }
 
 TEST(Generated, MessagesGiveNoFindings) {

@@ -41,6 +41,7 @@ void addDiff(Program const& program);
 void addWatch(Program const& program);
 void addReplay(Program const& program);
 void addStats(Program const& program);
+void addSchema(Program const& program);
 void addMethods(Program const& program);
 void addCompletion(Program const& program);
 

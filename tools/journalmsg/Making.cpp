@@ -132,10 +132,10 @@ int listMethods(Options const& options) {
 
 void addEncode(Program const& program) {
   auto& options = program.options;
-  auto* const command = program.add(
-      "encode", "Turn JSON as decode prints it back into messages.",
-      {"encode message.json > message.xml", "decode --format jsonl log | journalmsg encode"},
-      [&options] { return Encoding(options).run(); });
+  auto* const command =
+      program.add("encode", "Turn JSON as decode prints it back into messages.",
+                  {"encode message.json > message.xml", "encode < messages.jsonl > messages.xml"},
+                  [&options] { return Encoding(options).run(); });
   command
       ->add_option("FILE", options.files, "files with JSON; the standard input when there is none")
       ->type_name("");
@@ -153,6 +153,15 @@ void addMake(Program const& program) {
       ->required()
       ->type_name("");
   command->positionals_at_end();
+}
+
+void addSchema(Program const& program) {
+  auto& options = program.options;
+  program.add("schema", "Print the JSON schema of messages.",
+              {"schema > message.schema.json", "schema | jq .definitions.missedEntry"}, [&options] {
+                Output(options).text(messageSchema());
+                return fine;
+              });
 }
 
 void addMethods(Program const& program) {

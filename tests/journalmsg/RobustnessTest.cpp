@@ -1,0 +1,119 @@
+// What the program does when its input or output fails, with hostile bytes, and with any size.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "Program.h"
+
+namespace {
+
+TEST(Robustness, ClosedPipesEndQuietly) {
+  auto const result = run("for n in {1..100}; do cat $samples/missed.xml; done | journalmsg decode "
+                          "--format jsonl 2>errors | head -c 10 >/dev/null; cat errors");
+  EXPECT_EQ(result.out, "");
+}
+
+TEST(Robustness, AFullDiskIsAnError) {
+  auto const result = run("journalmsg decode --format jsonl $samples/missed.xml >/dev/full");
+  EXPECT_EQ(result.err, "journalmsg: cannot write the output: No space left on device\n");
+  EXPECT_EQ(result.code, 3);
+}
+
+TEST(Robustness, FilesThatCannotBeReadAreErrorsAndTheOthersAreRead) {
+  auto const result = run("journalmsg make success >good; journalmsg identify none good | wc -l;"
+                          "journalmsg identify none good >/dev/null");
+  EXPECT_EQ(result.out, "1\n");
+  EXPECT_EQ(result.err, "journalmsg: cannot read none: No such file or directory\n"
+                        "journalmsg: cannot read none: No such file or directory\n");
+  EXPECT_EQ(result.code, 3);
+}
+
+TEST(Robustness, FoldersAreRead) {
+  auto const result = run("mkdir -p a/b; journalmsg make success >a/2; journalmsg make failure "
+                          ">a/b/1; journalmsg identify a | sed 's/.* //'");
+  EXPECT_EQ(result.out, "a/2:1\na/b/1:1\n");
+}
+
+TEST(Robustness, BinaryGarbageIsNotRecognised) {
+  auto const result = run("head -c 100000 /bin/bash | journalmsg identify | wc -l; head -c 100000 "
+                          "/dev/urandom | journalmsg check");
+  EXPECT_EQ(result.out, "0\n");
+  EXPECT_EQ(result.code, 4);
+}
+
+TEST(Robustness, GzipIsUnpacked) {
+  EXPECT_EQ(run("journalmsg make success | gzip | journalmsg decode").out, "outcome  success\n");
+  auto const twice = run("(journalmsg make success | gzip; journalmsg make failure | gzip) >two.gz;"
+                         "journalmsg decode two.gz");
+  EXPECT_EQ(twice.code, 0) << twice.err;
+  auto const cut = run("gzip <$samples/missed.xml | head -c 500 | journalmsg identify");
+  EXPECT_EQ(cut.err, "journalmsg: cannot read standard input: is gzip that ends too early\n");
+  EXPECT_EQ(cut.code, 3);
+}
+
+TEST(Robustness, DumpsAreUnpacked) {
+  auto const command = [](std::string const& pack) {
+    return run(pack + " $golden/missed-log.xml | journalmsg decode --format jsonl").out;
+  };
+  auto const plain = command("cat");
+  EXPECT_FALSE(plain.empty());
+  EXPECT_EQ(command("base64"), plain);
+  EXPECT_EQ(command("od -An -v -tx1 <"), plain);
+}
+
+TEST(Robustness, LargeMessagesAreRefusedAboveTheLimit) {
+  auto const result = run("journalmsg identify --limit 1K $samples/missed.xml");
+  EXPECT_EQ(result.err, "journalmsg: cannot read " JOURNAL_SAMPLES_DIR
+                        "/missed.xml: a message is larger than 1024 bytes (see --limit)\n");
+  EXPECT_EQ(result.code, 3);
+}
+
+TEST(Robustness, OrderIsKeptByAnyNumberOfThreads) {
+  auto const result = run("for n in {1..200}; do cat $samples/*.xml; echo; done >many;"
+                          "journalmsg decode --format jsonl many | md5sum; "
+                          "journalmsg decode -j 3 --format jsonl many | md5sum");
+  auto const line = result.out.find('\n');
+  ASSERT_NE(line, std::string::npos);
+  EXPECT_EQ(result.out.substr(0, line), result.out.substr(line + 1, line)) << result.out;
+  EXPECT_EQ(result.err, "");
+}
+
+// An address sanitizer reserves more than any limit.
+#ifndef JOURNAL_SANITIZED
+TEST(Robustness, MemoryIsBoundedWhateverTheSize) {
+  auto const result = run("(cat $samples/*.xml; echo) >many; for n in {1..11}; do cat many many "
+                          ">more; mv more many; done;"
+                          "[ $(stat -c %s many) -gt 100000000 ] || exit 9;"
+                          "ulimit -v 120000; journalmsg decode --format jsonl many | wc -l");
+  EXPECT_EQ(result.out, "8192\n") << result.err;
+}
+#endif
+
+TEST(Robustness, ControlCharactersNeverReachATerminal) {
+  auto const result = run("printf '<Value>\\033[31m</Value>' >m; for c in explain check decode "
+                          "identify; do script -qec \"$(declare -f journalmsg); journalmsg $c "
+                          "--color never m\" /dev/null; done",
+                          "");
+  EXPECT_EQ(result.out.find('\x1b'), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("\\x1b[31m"), std::string::npos) << result.out;
+}
+
+TEST(Robustness, ColoursAreAskedFor) {
+  EXPECT_EQ(run("journalmsg decode", "<Value>Success</Value>").out.find('\x1b'), std::string::npos);
+  EXPECT_NE(run("journalmsg decode --color always", "<Value>Success</Value>").out.find('\x1b'),
+            std::string::npos);
+}
+
+/// Each piece is mapped by itself, as an engine that streams lines through programs does it.
+TEST(Robustness, PiecesOfAFileGiveTheSameAsTheWhole) {
+  auto const result = run("for n in {1..50}; do cat $samples/*.xml | tr -d '\\n' | sed "
+                          "'s/<Method>/\\n&/g'; done | sed 1d >many; split -n l/4 many part.;"
+                          "for part in part.*; do journalmsg decode --format jsonl $part; done |"
+                          "sort | md5sum; journalmsg decode --format jsonl many | sort | md5sum");
+  auto const line = result.out.find('\n');
+  ASSERT_NE(line, std::string::npos);
+  EXPECT_EQ(result.out.substr(0, line), result.out.substr(line + 1, line)) << result.out;
+}
+
+} // namespace
