@@ -23,6 +23,11 @@ struct Text {
   std::string bytes;
 };
 
+/// A flag. The caster of bool itself takes anything.
+struct Flag {
+  bool value;
+};
+
 template <class Record>
 inline constexpr auto logOf = inspect::Log::missed;
 #define LOG(Item, log)                                                                             \
@@ -69,6 +74,18 @@ struct type_caster<python::Text> {
   }
   static handle cast(python::Text const& text, return_value_policy, handle) {
     return python::textOf(text.bytes).release();
+  }
+};
+
+template <>
+struct type_caster<python::Flag> {
+  PYBIND11_TYPE_CASTER(python::Flag, const_name("bool"));
+  bool load(handle source, bool) {
+    value.value = source.ptr() == Py_True;
+    return PyBool_Check(source.ptr());
+  }
+  static handle cast(python::Flag flag, return_value_policy, handle) {
+    return PyBool_FromLong(flag.value);
   }
 };
 
