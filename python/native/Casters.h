@@ -108,10 +108,11 @@ template <class Type, python::Enumeration enumeration>
 struct enumeration_caster {
   Type value{};
   bool load(handle source, bool convert) {
-    if (!isinstance(source, python::classOf(enumeration)) &&
-        !(convert && PyLong_Check(source.ptr())))
+    make_caster<std::int32_t> number;
+    if (!(convert || isinstance(source, python::classOf(enumeration))) ||
+        !number.load(source, false))
       return false;
-    value = static_cast<Type>(pybind11::cast<std::int32_t>(source));
+    value = static_cast<Type>(cast_op<std::int32_t>(number));
     return true;
   }
   static handle cast(Type value, return_value_policy, handle) {
