@@ -12,7 +12,7 @@ def log(surname):
 
 def run(pytester, code, *arguments):
     pytester.makepyfile(SAMPLE + code)
-    return pytester.runpytest_subprocess("-p", "journalmessages.pytest_plugin", *arguments)
+    return pytester.runpytest_subprocess(*arguments)
 
 
 def test_differences_are_listed_value_by_value(pytester):
