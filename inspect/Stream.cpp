@@ -299,8 +299,9 @@ void Stream::emit(Found& found) {
   found.offset = offset_;
   found.line = line_;
   inMessage_ = false;
-  from_ = end_;
-  discard(end_);
+  // What begins like a message and holds no whole tag is passed over, or it would be found again.
+  from_ = std::max(end_, start_ + 1);
+  discard(from_);
 }
 
 void Stream::discard(std::size_t end) {

@@ -23,7 +23,7 @@ class CMakeBuild(build_ext):
         build = Path(os.environ.get('JOURNAL_PYTHON_BUILD', Path(self.build_temp) / 'cmake')).resolve()
         subprocess.check_call(
             ['cmake', '-G', 'Ninja', '-S', ROOT, '-B', build, '-DCMAKE_BUILD_TYPE=Release',
-             '-DBUILD_SHARED_LIBS=OFF', '-DBUILD_TESTING=OFF', '-DJOURNAL_BUILD_PYTHON=ON',
+             '-DBUILD_SHARED_LIBS=OFF', '-DJOURNAL_BUILD_TESTING=OFF', '-DJOURNAL_BUILD_PYTHON=ON',
              f'-DPython_EXECUTABLE={sys.executable}'])
         subprocess.check_call(['cmake', '--build', build])
         target = Path(self.build_lib) / 'journalmessages'
@@ -42,7 +42,7 @@ setup(
     py_modules=[],
     ext_modules=[Extension('journalmessages._native', [])],
     cmdclass={'build_ext': CMakeBuild},
-    entry_points={'pytest11': ['journalmessages = journalmessages.pytest_plugin']},
+    entry_points=(Path(__file__).parent / 'entry_points.txt').read_text(),
     zip_safe=False,
     options={'build': {'build_base': str(WORK)}, 'egg_info': {'egg_base': str(WORK)}},
 )

@@ -23,6 +23,11 @@ struct Text {
   std::string bytes;
 };
 
+/// A flag. The caster of bool itself takes anything.
+struct Flag {
+  bool value;
+};
+
 template <class Record>
 inline constexpr auto logOf = inspect::Log::missed;
 #define LOG(Item, log)                                                                             \
@@ -73,6 +78,18 @@ struct type_caster<python::Text> {
 };
 
 template <>
+struct type_caster<python::Flag> {
+  PYBIND11_TYPE_CASTER(python::Flag, const_name("bool"));
+  bool load(handle source, bool) {
+    value.value = source.ptr() == Py_True;
+    return PyBool_Check(source.ptr());
+  }
+  static handle cast(python::Flag flag, return_value_policy, handle) {
+    return PyBool_FromLong(flag.value);
+  }
+};
+
+template <>
 struct type_caster<std::set<std::string>> {
   PYBIND11_TYPE_CASTER(std::set<std::string>, const_name("AbstractSet[str]"));
   bool load(handle source, bool) {
@@ -91,10 +108,11 @@ template <class Type, python::Enumeration enumeration>
 struct enumeration_caster {
   Type value{};
   bool load(handle source, bool convert) {
-    if (!isinstance(source, python::classOf(enumeration)) &&
-        !(convert && PyLong_Check(source.ptr())))
+    make_caster<std::int32_t> number;
+    if (!(convert || isinstance(source, python::classOf(enumeration))) ||
+        !number.load(source, false))
       return false;
-    value = static_cast<Type>(pybind11::cast<std::int32_t>(source));
+    value = static_cast<Type>(cast_op<std::int32_t>(number));
     return true;
   }
   static handle cast(Type value, return_value_policy, handle) {

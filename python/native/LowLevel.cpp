@@ -38,10 +38,15 @@ constexpr bool isFilled = isOutput<Parameter>&& isList<Plain<Parameter>>;
 template <class Parameter>
 using Held = std::conditional_t<isText<Parameter>, std::string, Plain<Parameter>>;
 template <class Parameter>
-using Seen = std::conditional_t<isText<Parameter>, Text, Plain<Parameter>>;
+using Seen = std::conditional_t<
+    isText<Parameter>, Text,
+    std::conditional_t<std::is_same_v<Plain<Parameter>, bool>, Flag, Plain<Parameter>>>;
 
 std::string held(Text&& text) {
   return std::move(text.bytes);
+}
+bool held(Flag&& flag) {
+  return flag.value;
 }
 template <class Value>
 Value held(Value&& value) {
@@ -49,6 +54,9 @@ Value held(Value&& value) {
 }
 Text seen(std::string&& bytes) {
   return {std::move(bytes)};
+}
+Flag seen(bool&& value) {
+  return {value};
 }
 template <class Value>
 Value seen(Value&& value) {

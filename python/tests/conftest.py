@@ -1,3 +1,4 @@
+import os
 import sys
 from pathlib import Path
 
@@ -17,3 +18,12 @@ def golden():
 @pytest.fixture
 def goldens():
     return {path.stem: path.read_bytes() for path in sorted(GOLDEN.glob("*.xml"))}
+
+
+@pytest.fixture
+def texts_program():
+    """Built beside the package; see texts.cpp."""
+    program = Path(os.environ.get("JOURNAL_TEXTS_PROGRAM") or "")
+    if not program.is_file():
+        pytest.skip("JOURNAL_TEXTS_PROGRAM names no program")
+    return program

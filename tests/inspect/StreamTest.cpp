@@ -205,6 +205,14 @@ TEST(Stream, UnpacksCaptures) {
     }
 }
 
+// It begins like a message, but is not one whole tag: it must be passed over, or the scan never
+// ends.
+TEST(Stream, PassesOverACutTag) {
+  for (std::string const cut : {"<Schema name=\"", "<Schema name=\"<Schema name=\"", "<UniqueId>"})
+    EXPECT_EQ(textsOf(foundIn("\xFF" + cut)), Texts()) << cut;
+  EXPECT_EQ(textsOf(foundIn("x <Schema name=\"" + store)), Texts{store});
+}
+
 TEST(Stream, LimitsTheSizeOfAMessage) {
   Stream::Options options;
   options.limit = list.size();
