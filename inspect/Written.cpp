@@ -196,6 +196,11 @@ std::vector<Written> writtenIn(std::string_view text, Message const& message) {
     return std::make_tuple(a.entry, a.call + 1, a.field) <
            std::make_tuple(b.entry, b.call + 1, b.field);
   });
+  // Where damage repeats an element, the first one counts.
+  auto const same = [](Written const& a, Written const& b) {
+    return std::tie(a.entry, a.call, a.field) == std::tie(b.entry, b.call, b.field);
+  };
+  different.erase(std::unique(different.begin(), different.end(), same), different.end());
   return different;
 }
 
