@@ -9,6 +9,10 @@ set(journal_data ${CMAKE_INSTALL_DATADIR}/JournalServiceHelper)
 set(journal_package ${CMAKE_INSTALL_LIBDIR}/cmake/JournalServiceHelper)
 
 install(DIRECTORY include/ DESTINATION ${journal_headers} COMPONENT development)
+install(FILES docs/man/JournalServiceHelper.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3
+  COMPONENT development)
+install(FILES docs/man/journal-messages.7 DESTINATION ${CMAKE_INSTALL_MANDIR}/man7
+  COMPONENT development)
 install(DIRECTORY tests/golden/ DESTINATION ${journal_data}/golden COMPONENT development
   FILES_MATCHING PATTERN *.xml)
 install(DIRECTORY examples/data/ DESTINATION ${journal_data}/samples COMPONENT development

@@ -2,7 +2,7 @@
 import re
 
 from facts import facts
-from svg import CHARACTER, LINE, WIDTH, Drawing
+from svg import CHARACTER, LINE, Drawing
 
 DECLARATION = '<?xml version="1.0" encoding="utf-8"?>'
 NOTES = {
@@ -82,8 +82,10 @@ QUESTIONS = [
     ('code 21', code(21), 'the count of missed calls'),
     ('<missedGroupCallsUpdate>', lambda message: '<missedGroupCallsUpdate>' in message.text,
      'the count of missed group calls'),
-    ('<Schema name=', lambda message: '<Schema name=' in message.text, 'a request to the data store'),
-    ('<CallLogEnabled>', lambda message: '<CallLogEnabled>' in message.text, 'the call-log setting'),
+    ('<Schema name=', lambda message: '<Schema name=' in message.text,
+     'a request to the data store'),
+    ('<CallLogEnabled>', lambda message: '<CallLogEnabled>' in message.text,
+     'the call-log setting'),
     ('<Value>Success or <Value>Failure',
      lambda message: re.search('<Value>(Success|Failure)<', message.text), 'an outcome'),
     ('anything else', lambda message: True, 'the last dialled entry, if asked for'),

@@ -50,14 +50,15 @@ def record(kind):
     drawing.text(ELEMENT, 'never written', 'bad')
     drawing.text(BACK, 'keeps its own', 'bad')
     drawing.y += LINE + 6
-    drawing.text(MEMBER, 'A text without a remark is copied as it is; an empty one is left out.', 'dim')
+    drawing.text(MEMBER, 'A text without a remark is copied as it is; an empty one is left out.',
+                 'dim')
     return drawing
 
 
 def walk():
     drawing = Drawing('How the cursor walks')
-    drawing.text(MEMBER, 'The red mark is the cursor before each step, blue is what the step found.',
-                 'dim')
+    drawing.text(MEMBER, 'The red mark is the cursor before each step, blue is what the step '
+                 'found.', 'dim')
     drawing.y += 34
     for number, step in enumerate(facts.steps, 1):
         before, after = int(step.before), int(step.after)

@@ -43,7 +43,8 @@ class Drawing:
                           f'class="{style}"/>')
 
     def line(self, x1, y1, x2, y2, style=''):
-        self.parts.append(f'<line x1="{x1:g}" y1="{y1:g}" x2="{x2:g}" y2="{y2:g}" class="{style}"/>')
+        self.parts.append(f'<line x1="{x1:g}" y1="{y1:g}" x2="{x2:g}" y2="{y2:g}" '
+                          f'class="{style}"/>')
 
     def arrow(self, x1, x2, y, style=''):
         """Horizontal, its head at x2."""
