@@ -14,7 +14,6 @@ namespace {
 using Api = JournalServiceHelper;
 namespace word = journal::word;
 using Form = Piece::Form;
-constexpr auto npos = std::string_view::npos;
 
 bool isEmptyPart(std::string_view text, Piece const& part) {
   return text.compare(part.offset + part.size, 2, "</") == 0 &&

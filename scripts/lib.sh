@@ -34,6 +34,9 @@ declare -A journal_packages=(
   [charts]='gnuplot-nox'
   [coverage]="$native gcovr python3"
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
+  [web]='cmake emscripten esbuild ninja-build nodejs rapidjson-dev'
+  [web-test]='chromium cmake g++ ninja-build nodejs rapidjson-dev'
+  [npm]='npm'
   [mutate]="$native $mips python3"
 )
 
