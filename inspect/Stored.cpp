@@ -45,6 +45,12 @@ public:
       entry_ = call_ = nullptr;
   }
 
+  /// Parts are judged by their own kind of record, even where damage puts them into another.
+  void* ownerOf(Piece const& piece) const {
+    if (piece.element == word::ITEM || (call_ != nullptr && piece.element != word::ENTRY))
+      return call_;
+    return entry_;
+  }
   void* entry() const { return entry_; }
   void* call() const { return call_; }
   bool isReliable() const { return !list_ || counted_ >= entries_.size(); }
@@ -172,7 +178,7 @@ private:
     for (std::size_t at = 0; at < pieces.size(); ++at) {
       Piece& piece = pieces[at];
       places.visit(piece);
-      owners[at] = places.call() != nullptr ? places.call() : places.entry();
+      owners[at] = places.ownerOf(piece);
       bool const value = isValue(piece) && !isHidden(piece);
       if (auto const* field = fieldOf(callFields, piece.element);
           value && field != nullptr && places.call() != nullptr)
