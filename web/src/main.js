@@ -32,6 +32,7 @@ function open(capture, from) {
   name = from;
   list.clear();
   view.clear();
+  find("status").textContent = "";
   find("results").hidden = false;
   find("reading").hidden = false;
   find("reading-name").textContent = `Reading ${from}`;
