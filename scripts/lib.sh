@@ -35,7 +35,7 @@ declare -A journal_packages=(
   [coverage]="$native gcovr python3"
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build'
   [web]='cmake emscripten esbuild ninja-build nodejs rapidjson-dev'
-  [web-test]='chromium cmake g++ ninja-build nodejs rapidjson-dev'
+  [web-test]="$native chromium nodejs"
   [npm]='npm'
   [mutate]="$native $mips python3"
 )
