@@ -45,7 +45,7 @@ declare -A journal_packages=(
   [python]='cmake g++ ninja-build rapidjson-dev pybind11-dev python3-dev python3-pytest
     python3-hypothesis python3-mypy mypy python3-build python3-setuptools python3-wheel python3-venv'
   [web]='cmake emscripten esbuild ninja-build nodejs rapidjson-dev'
-  [web-test]='chromium cmake g++ ninja-build nodejs rapidjson-dev'
+  [web-test]="$native chromium nodejs"
   [npm]='npm'
   [mutate]="$native $mips python3"
 )

@@ -188,20 +188,28 @@ void appendSummary(Found const& found) {
   output += "}";
 }
 
-/// The messages that are complete by now.
-void listMessages() {
+void beginList() {
   output = "{\"messages\":[";
-  Found found;
-  for (bool first = true; stream.next(found); first = false) {
-    if (isRedacting)
-      found.text = redacted(std::move(found.text));
-    output += first ? "" : ",";
-    appendSummary(found);
-    messages.push_back(std::move(found.text));
-  }
+}
+void add(Found found) {
+  if (isRedacting)
+    found.text = redacted(std::move(found.text));
+  output += output.back() == '[' ? "" : ",";
+  appendSummary(found);
+  messages.push_back(std::move(found.text));
+}
+void endList() {
   auto const capture = stream.capture();
   output += "],\"capture\":" + quoted(capture ? nameOf(*capture) : std::string_view());
   output += std::string(",\"tooLarge\":") + (stream.isTooLarge() ? "true}" : "false}");
+}
+
+/// The messages that are complete by now.
+void listMessages() {
+  beginList();
+  for (Found found; stream.next(found); found = Found())
+    add(std::move(found));
+  endList();
 }
 
 } // namespace
@@ -229,6 +237,12 @@ void journal_push() {
 void journal_finish() {
   stream.finish();
   listMessages();
+}
+
+void journal_add(std::size_t offset, std::size_t line) {
+  beginList();
+  add({input, offset, line});
+  endList();
 }
 
 void journal_text(std::size_t index) {

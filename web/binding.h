@@ -12,7 +12,7 @@
 
 extern "C" {
 
-/// Where the caller puts so many bytes before journal_push.
+/// Where the caller puts so many bytes before journal_push and journal_add.
 WEB_EXPORT char* journal_input(std::size_t size);
 /// What the last operation below answered.
 WEB_EXPORT char const* journal_output();
@@ -24,6 +24,8 @@ WEB_EXPORT void journal_open(int redact);
 /// Takes the next bytes of the capture; answers the messages that are complete by now.
 WEB_EXPORT void journal_push();
 WEB_EXPORT void journal_finish();
+/// Takes one message as it is, found elsewhere before; answers it alone.
+WEB_EXPORT void journal_add(std::size_t offset, std::size_t line);
 
 /// The bytes of a message of the capture.
 WEB_EXPORT void journal_text(std::size_t index);

@@ -203,4 +203,25 @@ TABLE(WrongUse,
        "journalmsg: The following argument was not expected: --formt\nDid you mean --format?\n", 2},
       {"journalmsg --version", "", "journalmsg 1.0.0\n"})
 
+#define SLOT(name) "<script id=\"capture\" type=\"text/plain\" data-name=\"" name "\">"
+TABLE(Report,
+      {"echo '(" SLOT("") ")' >page; journalmsg report --page page -o out && cat out",
+       "hi\n" REQUEST,
+       "(" SLOT("") "3 2 PD94bWwgdmVyc2lvbj0iMS4wIiBlbmNvZGluZz0idXRmLTgiPz4"
+                    "8TWV0aG9kPjxzdWJzY3JpYmU+PC9NZXRob2Q+\n)\n"},
+      {"echo '" SLOT(
+           "") "' >page; cat >'a<b'; journalmsg report --page page -o out 'a<b'; head -c61 out",
+       REQUEST, SLOT("a&#60;b") "0 "},
+      {"echo '" SLOT("") "' >page; journalmsg report --redact --page page -o out; cat out",
+       "<UniqueId>1</UniqueId><Surname>A</Surname>",
+       SLOT("") "0 1 PFVuaXF1ZUlkPjE8L1VuaXF1ZUlkPjxTdXJuYW1lPng8L1N1cm5hbWU+\n\n"},
+      {"journalmsg report --page none -o out", REQUEST, "",
+       "journalmsg: there is no page at none (see --page)\n", 3},
+      {"echo >page; journalmsg report --page page -o out", REQUEST, "",
+       "journalmsg: page is not the page of journalmsg\n", 3},
+      {"echo '" SLOT("") "' >page; journalmsg report --page page -o none/out", REQUEST, "",
+       "journalmsg: cannot write none/out: No such file or directory\n", 3},
+      {"echo '" SLOT("") "' >page; journalmsg report --page page -o /dev/full", REQUEST, "",
+       "journalmsg: cannot write /dev/full: No space left on device\n", 3})
+
 } // namespace

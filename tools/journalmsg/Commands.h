@@ -39,6 +39,7 @@ void addExplain(Program const& program);
 void addCheck(Program const& program);
 void addDiff(Program const& program);
 void addWatch(Program const& program);
+void addReport(Program const& program);
 void addReplay(Program const& program);
 void addStats(Program const& program);
 void addSchema(Program const& program);

@@ -119,7 +119,8 @@ int runProgram(int argc, char** argv) {
   Run run;
   Program const program{app, options, run};
   for (auto const add : {addIdentify, addDecode, addEncode, addMake, addExplain, addCheck, addDiff,
-                         addWatch, addReplay, addStats, addMethods, addSchema, addCompletion})
+                         addWatch, addReport, addReplay, addStats, addMethods, addSchema,
+                         addCompletion})
     add(program);
   try {
     app.parse(argc, argv);

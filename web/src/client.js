@@ -1,7 +1,7 @@
 // The page's end of the worker.
 import source from "journal_worker.txt";
 
-const cancelTimeout = 500; // ms; then the worker is ended, whatever it is at
+const cancelTimeout = 700; // ms; then the worker is ended, whatever it is at
 
 export class Client {
   #worker;
@@ -54,7 +54,7 @@ export class Client {
     });
   }
 
-  /** @param capture {blob} or {base64} */
+  /** @param capture {blob} or {report} */
   read(capture, redact) {
     this.ask("read", { ...capture, redact }).catch((error) => this.#restart(error.message));
   }

@@ -21,6 +21,10 @@ export async function loadEngine(bytes) {
 
   const outputBytes = () =>
     new Uint8Array(wasm.memory.buffer, wasm.journal_output() >>> 0, wasm.journal_output_size());
+  const input = (bytes) => {
+    const at = wasm.journal_input(bytes.length) >>> 0;
+    new Uint8Array(wasm.memory.buffer, at, bytes.length).set(bytes);
+  };
   const output = () => JSON.parse(decoder.decode(outputBytes()));
 
   return {
@@ -29,13 +33,19 @@ export async function loadEngine(bytes) {
 
     /** Takes the next bytes of the capture: {messages, capture, tooLarge}. */
     push(chunk) {
-      const at = wasm.journal_input(chunk.length) >>> 0;
-      new Uint8Array(wasm.memory.buffer, at, chunk.length).set(chunk);
+      input(chunk);
       wasm.journal_push();
       return output();
     },
     finish() {
       wasm.journal_finish();
+      return output();
+    },
+
+    /** Takes one message that was found before; answers as push does. */
+    add(text, offset, line) {
+      input(text);
+      wasm.journal_add(offset, line);
       return output();
     },
 

@@ -1,7 +1,7 @@
 // The list of the messages found, one page of it at a time.
 import { h, plural, roving } from "./dom.js";
 
-const pageSize = 200;
+const pageSize = 100;
 const severities = ["error", "warning", "note"];
 
 function badges(message) {

@@ -37,6 +37,7 @@ function open(capture, from) {
   find("reading").hidden = false;
   find("reading-name").textContent = `Reading ${from}`;
   find("progress").value = 0;
+  if (matchMedia("(max-width: 60rem)").matches) find("status").scrollIntoView();
   client.read(capture, find("redact").checked);
 }
 
@@ -76,10 +77,10 @@ function listenToDrops() {
 /** A report has its capture inside. */
 function openAttached() {
   const slot = find("capture");
-  const base64 = slot.textContent.trim();
-  if (base64 === "") return;
+  const report = slot.textContent.trim();
+  if (report === "") return;
   find("input").open = false;
-  open({ base64 }, slot.dataset.name || "this report");
+  open({ report }, slot.dataset.name || "this report");
 }
 
 const client = new Client((progress) => onProgress(progress));

@@ -1,6 +1,8 @@
 // The page as a person uses it, opened from a file in a real browser.
 import assert from "node:assert/strict";
-import { readFileSync, writeFileSync } from "node:fs";
+import { execFileSync } from "node:child_process";
+import { readFileSync, rmSync } from "node:fs";
+import { gzipSync } from "node:zlib";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, afterEach, before, beforeEach, test } from "node:test";
@@ -81,6 +83,15 @@ test("a capture as a hexadecimal dump, and one that is dropped", async () => {
   }, list);
   await page.dispatchEvent("body", "drop", { dataTransfer: transfer });
   await until(page, () => document.querySelector("#status").textContent === "1 message in dropped.log.");
+});
+
+test("a compressed capture is unpacked", async () => {
+  const buffer = gzipSync((list + "\n").repeat(50));
+  await page.setInputFiles("#file", { name: "capture.gz", mimeType: "application/gzip", buffer });
+  assert.equal(await finished(page), "50 messages in capture.gz.");
+  const cut = buffer.subarray(0, buffer.length / 2);
+  await page.setInputFiles("#file", { name: "cut.gz", mimeType: "application/gzip", buffer: cut });
+  assert.match(await finished(page), / in cut\.gz\. .*truncated/);
 });
 
 test("elements and fields are linked both ways", async () => {
@@ -193,16 +204,26 @@ test("the policy forbids the network and foreign scripts", async () => {
   page.errors.length = page.requests.length = 0;
 });
 
-test("a report opens its capture", async () => {
-  const html = readFileSync(pagePath, "utf8");
-  const slot = '<script id="capture" type="text/plain" data-name="">';
-  assert.equal(html.split(slot).length, 2);
+test("a report by journalmsg opens its messages", async () => {
   const path = join(tmpdir(), `journal-report-${process.pid}.html`);
-  const filled = slot.replace('""', '"trace.log"') + Buffer.from(damaged).toString("base64");
-  writeFileSync(path, html.replace(slot, () => filled));
-  const report = await openPage(browser, { path });
-  assert.equal(await finished(report), "6 messages in trace.log.");
-  await report.waitForSelector("#findings li");
-  assert.deepEqual(report.errors, []);
-  await report.context().close();
+  const source = join(root, "web/samples/damaged.txt");
+  const report = async (...options) => {
+    execFileSync(join(root, "build/web-native/tools/journalmsg/journalmsg"),
+                 ["report", "--page", pagePath, "-o", path, ...options, source]);
+    const opened = await openPage(browser, { path });
+    assert.equal(await finished(opened), "6 messages in damaged.txt.");
+    await opened.waitForSelector(".piece");
+    assert.deepEqual(opened.errors, []);
+    return opened;
+  };
+  const plain = await report();
+  assert.match(await plain.textContent("#pieces"), /Brandt & Sons/);
+  assert.match(await plain.textContent("#facts"), /at offset 0, line 1$/);
+  await plain.click('.row[data-index="1"]');
+  await until(plain, () => /at offset 707, line 2$/.test(document.querySelector("#facts").textContent));
+  await plain.context().close();
+  const masked = await report("--redact");
+  assert.ok(!(await masked.textContent("#pieces")).includes("Brandt"));
+  await masked.context().close();
+  rmSync(path);
 });
