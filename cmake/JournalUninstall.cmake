@@ -12,7 +12,10 @@ install(CODE "
       ${CMAKE_INSTALL_BINDIR} ${CMAKE_INSTALL_INCLUDEDIR} ${CMAKE_INSTALL_LIBDIR}/pkgconfig
       ${CMAKE_INSTALL_LIBDIR}/cmake/JournalServiceHelper
       ${CMAKE_INSTALL_DATADIR}/JournalServiceHelper/golden
-      ${CMAKE_INSTALL_DATADIR}/JournalServiceHelper/samples)
+      ${CMAKE_INSTALL_DATADIR}/JournalServiceHelper/samples ${CMAKE_INSTALL_MANDIR}/man1
+      ${CMAKE_INSTALL_MANDIR}/man3 ${CMAKE_INSTALL_MANDIR}/man7 ${CMAKE_INSTALL_DATADIR}/journalmsg
+      ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+      ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
     get_filename_component(folder \"\${folder}\" ABSOLUTE BASE_DIR \"\${CMAKE_INSTALL_PREFIX}\")
     set(folder \"\$ENV{DESTDIR}\${folder}\")
     while(NOT EXISTS \"\${folder}\")

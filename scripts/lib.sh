@@ -20,10 +20,10 @@ declare -A journal_packages=(
   [costs]="$native $mips gcc python3 valgrind"
   [abi]="$native $mips binutils dpkg-dev dwarves"
   [consumers]="$mips binutils clang g++ make pkg-config"
-  [packages]="build-essential cmake debhelper doxygen doxygen-awesome-css git lintian ninja-build
-    pkg-config python3 $mips"
+  [packages]="$native $mips build-essential debhelper doxygen doxygen-awesome-css git lintian
+    pkg-config python3"
   [packages-in-roots]='debootstrap git python3'
-  [package]='build-essential cmake debhelper doxygen doxygen-awesome-css git ninja-build python3'
+  [package]="$native build-essential debhelper doxygen doxygen-awesome-css git python3"
   [package-mips]=$mips
   [demo]='cmake g++ ninja-build libcli11-dev libfmt-dev rapidjson-dev zlib1g-dev'
   [documents]="$native $mips binutils python3"
