@@ -34,7 +34,8 @@ py::bytes bytes(py::handle data) {
 
 py::object decode(py::handle data, py::handle kind) {
   auto const raw = bytes(data);
-  auto const view = static_cast<std::string_view>(raw);
+  std::string_view const view(PyBytes_AS_STRING(raw.ptr()),
+                              static_cast<std::size_t>(PyBytes_GET_SIZE(raw.ptr())));
   auto const log = logOf(kind);
   inspect::Decoded decoded;
   {
