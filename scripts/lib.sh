@@ -24,6 +24,7 @@ declare -A journal_packages=(
     pkg-config python3"
   [packages-in-roots]='debootstrap git python3'
   [package]="$native build-essential debhelper doxygen doxygen-awesome-css git python3"
+  [package-python]='dh-python pybind11-dev python3-dev'
   [package-mips]=$mips
   [demo]='cmake g++ ninja-build libcli11-dev libfmt-dev rapidjson-dev zlib1g-dev'
   [documents]="$native $mips binutils python3"
@@ -44,6 +45,8 @@ declare -A journal_packages=(
   [fuzz]='cmake clang libclang-rt-14-dev ninja-build rapidjson-dev'
   [python]='cmake g++ ninja-build rapidjson-dev pybind11-dev python3-dev python3-pytest
     python3-hypothesis python3-mypy mypy python3-build python3-setuptools python3-wheel python3-venv'
+  [python-oldest]='debootstrap git'
+  [python-asan]=rapidjson-dev # and what scripts/python installs
   [web]='cmake emscripten esbuild ninja-build nodejs rapidjson-dev'
   [web-test]="$native chromium nodejs"
   [npm]='npm'

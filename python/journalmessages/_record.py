@@ -4,7 +4,7 @@ from __future__ import annotations
 import dataclasses
 import enum
 import json
-from typing import Any, Dict, List, Optional, Tuple
+from typing import Any, Dict, List, Optional, Tuple, Type
 
 
 class Message:
@@ -90,6 +90,15 @@ class Entry(Record, Message):
     """One party of a log with its calls: a MissedEntry, DialledEntry, ReceivedEntry or ForwardedEntry."""
 
     __slots__ = ()
+
+    def __reduce__(self) -> Tuple[Any, ...]:
+        return _restored, (type(self), self._values(), self._raw)
+
+
+def _restored(record: Type[Entry], values: Tuple[Any, ...], raw: Optional[bytes]) -> Entry:
+    entry = record(*values)
+    setattr(entry, "_raw", raw)  # kept in C++, where no slot is
+    return entry
 
 
 class Call(Record):

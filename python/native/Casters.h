@@ -61,11 +61,12 @@ py::list objectsOf(Records const& records) {
 
 } // namespace python
 
+// The names are given with _, which every version of pybind11 has.
 namespace pybind11::detail {
 
 template <>
 struct type_caster<python::Text> {
-  PYBIND11_TYPE_CASTER(python::Text, const_name("str"));
+  PYBIND11_TYPE_CASTER(python::Text, _("str"));
   bool load(handle source, bool) {
     if (!PyUnicode_Check(source.ptr()) && !PyBytes_Check(source.ptr()))
       return false;
@@ -79,7 +80,7 @@ struct type_caster<python::Text> {
 
 template <>
 struct type_caster<python::Flag> {
-  PYBIND11_TYPE_CASTER(python::Flag, const_name("bool"));
+  PYBIND11_TYPE_CASTER(python::Flag, _("bool"));
   bool load(handle source, bool) {
     value.value = source.ptr() == Py_True;
     return PyBool_Check(source.ptr());
@@ -91,7 +92,7 @@ struct type_caster<python::Flag> {
 
 template <>
 struct type_caster<std::set<std::string>> {
-  PYBIND11_TYPE_CASTER(std::set<std::string>, const_name("AbstractSet[str]"));
+  PYBIND11_TYPE_CASTER(std::set<std::string>, _("AbstractSet[str]"));
   bool load(handle source, bool) {
     if (!PyAnySet_Check(source.ptr()))
       return false;
@@ -127,7 +128,7 @@ struct enumeration_caster {
   template <>                                                                                      \
   struct type_caster<Type> : enumeration_caster<Type, python::Enumeration::name>
 #define NAMED(text)                                                                                \
-  { static constexpr auto name = const_name(text); }
+  { static constexpr auto name = _(text); }
 ENUMERATION(NumberType::NT, numberType) NAMED("NumberType");
 ENUMERATION(CallLogEntryEvent::_TFormat, timeFormat) NAMED("TimeFormat");
 ENUMERATION(CallLogEntryEvent::_PresentationValue, presentation) NAMED("Presentation");
@@ -141,7 +142,7 @@ ENUMERATION(JournalServiceHelper::MethodCode, methodCode) NAMED("MethodCode");
 #define RECORDS(Item, entryName, callName)                                                         \
   template <>                                                                                      \
   struct type_caster<Item> {                                                                       \
-    PYBIND11_TYPE_CASTER(Item, const_name(entryName));                                             \
+    PYBIND11_TYPE_CASTER(Item, _(entryName));                                                      \
     bool load(handle source, bool) {                                                               \
       if (python::logOfEntry(source) != python::logOf<Item>)                                       \
         return false;                                                                              \
@@ -154,7 +155,7 @@ ENUMERATION(JournalServiceHelper::MethodCode, methodCode) NAMED("MethodCode");
   };                                                                                               \
   template <>                                                                                      \
   struct type_caster<members::CallOf<Item>> {                                                      \
-    PYBIND11_TYPE_CASTER(members::CallOf<Item>, const_name(callName));                             \
+    PYBIND11_TYPE_CASTER(members::CallOf<Item>, _(callName));                                      \
     bool load(handle source, bool) {                                                               \
       value = *static_cast<members::CallOf<Item>*>(python::callOf(python::logOf<Item>, source));   \
       return true;                                                                                 \
@@ -165,7 +166,7 @@ ENUMERATION(JournalServiceHelper::MethodCode, methodCode) NAMED("MethodCode");
   };                                                                                               \
   template <>                                                                                      \
   struct type_caster<std::deque<Item>> {                                                           \
-    PYBIND11_TYPE_CASTER(std::deque<Item>, const_name("List[" entryName "]"));                     \
+    PYBIND11_TYPE_CASTER(std::deque<Item>, _("List[" entryName "]"));                              \
     bool load(handle source, bool) {                                                               \
       if (!PyList_Check(source.ptr()))                                                             \
         return false;                                                                              \
@@ -178,7 +179,7 @@ ENUMERATION(JournalServiceHelper::MethodCode, methodCode) NAMED("MethodCode");
   };                                                                                               \
   template <>                                                                                      \
   struct type_caster<std::list<members::CallOf<Item>>> {                                           \
-    static constexpr auto name = const_name("List[" callName "]");                                 \
+    static constexpr auto name = _("List[" callName "]");                                          \
     static handle cast(std::list<members::CallOf<Item>> const& calls, return_value_policy,         \
                        handle) {                                                                   \
       return python::objectsOf(calls).release();                                                   \

@@ -188,9 +188,7 @@ inspect::Message messageIn(py::handle object) {
 py::object toPython(inspect::Decoded&& decoded, py::bytes raw) {
   auto const message = std::visit(
       [&](auto& own) { return ToPython{decoded.outcome}(std::move(own)); }, decoded.message);
-  if (logOfEntry(message))
-    setRaw(message, std::move(raw));
-  else if (!message.is_none())
+  if (!message.is_none())
     message.attr("_raw") = std::move(raw);
   return message;
 }

@@ -27,19 +27,22 @@ OptionalLog logOf(py::handle kind) {
   return static_cast<inspect::Log>(py::cast<int>(kind));
 }
 
-py::bytes bytes(py::handle data, std::string const& text) {
-  return PyBytes_CheckExact(data.ptr()) ? py::reinterpret_borrow<py::bytes>(data) : py::bytes(text);
+py::bytes bytes(py::handle data) {
+  return PyBytes_CheckExact(data.ptr()) ? py::reinterpret_borrow<py::bytes>(data)
+                                        : py::bytes(bytesOf(data));
 }
 
 py::object decode(py::handle data, py::handle kind) {
-  auto const text = bytesOf(data);
+  auto const raw = bytes(data);
+  std::string_view const view(PyBytes_AS_STRING(raw.ptr()),
+                              static_cast<std::size_t>(PyBytes_GET_SIZE(raw.ptr())));
   auto const log = logOf(kind);
   inspect::Decoded decoded;
   {
     py::gil_scoped_release const released;
-    decoded = inspect::read(text, log);
+    decoded = inspect::read(std::string(view), log);
   }
-  return toPython(std::move(decoded), bytes(data, text));
+  return toPython(std::move(decoded), raw);
 }
 
 py::bytes encode(py::handle message) {

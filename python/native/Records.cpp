@@ -40,7 +40,7 @@ struct Object {
   Class const* own;
   std::shared_ptr<void> record;
   PyObject* calls; ///< of an entry: nullptr until somebody asks for them
-  PyObject* raw;   ///< of an entry: the bytes it was decoded from, or nullptr
+  PyObject* raw;   ///< of an entry: the bytes it was decoded from, None or nullptr
 
   PyObject* base() { return &head; }
 };
@@ -229,6 +229,12 @@ PyObject* getRaw(PyObject* self, void*) {
   return raw;
 }
 
+int setRaw(PyObject* self, PyObject* value, void*) {
+  Py_XINCREF(value);
+  Py_XSETREF(object(self)->raw, value);
+  return 0;
+}
+
 // ---- Classes, from the lists of members
 
 /// jsGroupBy becomes js_group_by.
@@ -275,7 +281,7 @@ void makeType(Class& own, py::handle base, std::string const& name) {
   for (Attribute& attribute : own.attributes)
     own.accessors.push_back({attribute.name.c_str(), get, set, nullptr, &attribute});
   if (own.isEntry)
-    own.accessors.push_back({"_raw", getRaw, nullptr, nullptr, nullptr});
+    own.accessors.push_back({"_raw", getRaw, setRaw, nullptr, nullptr});
   own.accessors.push_back({});
   static std::string const doc[] = {"One call of the log of ", "One party of the log of "};
   auto const text = doc[own.isEntry ? 1 : 0] + std::string(inspect::nameOf(own.log)) +
@@ -405,10 +411,6 @@ void* callOf(Log log, py::handle handle) {
   if (!PyObject_TypeCheck(handle.ptr(), wanted.type))
     notA(wanted, handle);
   return object(handle.ptr())->record.get();
-}
-
-void setRaw(py::handle entry, py::bytes raw) {
-  Py_XSETREF(object(entry.ptr())->raw, raw.release().ptr());
 }
 
 } // namespace python

@@ -36,9 +36,6 @@ inspect::Entries entriesOf(inspect::Log log, py::handle objects);
 /// @throws type_error for any other object
 void* callOf(inspect::Log log, py::handle object);
 
-/// Remembers the bytes from which an entry was decoded.
-void setRaw(py::handle entry, py::bytes raw);
-
 } // namespace python
 
 #endif

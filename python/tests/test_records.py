@@ -158,6 +158,9 @@ def test_messages_are_copied_and_pickled():
     log = log_of("A")
     again = pickle.loads(pickle.dumps(log))
     assert again == log and again.raw == log.raw
+    text = b"<Surname>Berg</Surname>"
+    for copied in (copy.copy, copy.deepcopy, lambda entry: pickle.loads(pickle.dumps(entry))):
+        assert copied(jm.decode(text, jm.Kind.MISSED)).raw == text
     deep = copy.deepcopy(log)
     deep.entries[0].surname = "B"
     assert log.entries[0].surname == "A"
