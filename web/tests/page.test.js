@@ -89,6 +89,9 @@ test("a compressed capture is unpacked", async () => {
   const buffer = gzipSync((list + "\n").repeat(50));
   await page.setInputFiles("#file", { name: "capture.gz", mimeType: "application/gzip", buffer });
   assert.equal(await finished(page), "50 messages in capture.gz.");
+  const twice = Buffer.concat([buffer, buffer]);
+  await page.setInputFiles("#file", { name: "twice.gz", mimeType: "application/gzip", buffer: twice });
+  assert.match(await finished(page), / in twice\.gz\. Junk found after end/);
   const cut = buffer.subarray(0, buffer.length / 2);
   await page.setInputFiles("#file", { name: "cut.gz", mimeType: "application/gzip", buffer: cut });
   assert.match(await finished(page), / in cut\.gz\. .*truncated/);

@@ -51,7 +51,11 @@ const views = {
     return "#which-log";
   },
   reading: async (page) => {
-    await page.evaluate(() => (document.querySelector("#reading").hidden = false));
+    await page.evaluate(() => {
+      document.querySelector("#reading").hidden = false;
+      document.querySelector("#reading-name").textContent = "Reading capture.log";
+      document.querySelector("#progress").value = 0.4;
+    });
     return "h1";
   },
 };
