@@ -118,9 +118,9 @@ int runProgram(int argc, char** argv) {
   Options options;
   Run run;
   Program const program{app, options, run};
-  for (auto const add : {addIdentify, addDecode, addEncode, addMake, addExplain, addCheck, addDiff,
-                         addWatch, addReport, addReplay, addStats, addMethods, addSchema,
-                         addCompletion})
+  for (auto const add :
+       {addIdentify, addDecode, addEncode, addMake, addExplain, addCheck, addDiff, addWatch,
+        addReport, addReplay, addStats, addMethods, addSchema, addCompletion})
     add(program);
   try {
     app.parse(argc, argv);
