@@ -26,7 +26,8 @@ export class MessageView {
     find("copy").addEventListener("click", () => this.#copy());
     find("keep").addEventListener("click", () => this.#keep());
     find("log").append(...vocabulary.logs.map((log, at) => h("option", { value: at }, log)));
-    find("log").addEventListener("change", () => this.show(this.summary, Number(find("log").value)));
+    find("log").addEventListener("change", ({ target }) =>
+      this.show(this.summary, Number(target.value)));
     find("close-detail").addEventListener("click", () => this.#unmark());
     document.addEventListener("keydown", (event) => {
       if (event.key === "Escape") this.#unmark();
@@ -103,16 +104,19 @@ export class MessageView {
 
   #finding({ offset, severity, rule, element, what, text, instead }) {
     const { pieces } = this.shown.explanation;
-    const index = pieces.findIndex((piece) => piece.offset <= offset && offset < piece.offset + piece.size);
+    const index = pieces.findIndex((piece) =>
+      piece.offset <= offset && offset < piece.offset + piece.size);
     const quoted = (value) => `“${visible(textOf(value)).slice(0, 200)}”`;
-    const button = h("button", { type: "button", onclick: () => this.#choosePiece(index, find("pieces")) },
+    const choose = () => this.#choosePiece(index, find("pieces"));
+    const button = h("button", { type: "button", onclick: choose },
       `${element ? `${visible(textOf(element))}: ` : ""}${what}`);
     return h("li", {},
       h("span", { class: `badge ${severity}` }, severity), " ",
       index < 0 ? button.textContent : button,
       text === "" ? null : h("span", {}, ` ${quoted(text)}`),
       instead === "" || instead === text ? null : h("span", {}, `, readers get ${quoted(instead)}`),
-      h("p", { class: "why" }, `${this.rules.get(rule).why} `, h("code", {}, rule), ` at offset ${offset}`));
+      h("p", { class: "why" },
+        `${this.rules.get(rule).why} `, h("code", {}, rule), ` at offset ${offset}`));
   }
 
   // ---- A piece and its field
@@ -206,8 +210,8 @@ export class MessageView {
   #renderDifferences(differences) {
     const [left, right] = [this.base, this.summary].map(({ index }) => index + 1);
     find("differences-title").textContent = `Differences between ${left} and ${right}`;
-    find("differences-text").textContent =
-      differences.length === 0 ? "The two hold the same." : plural(differences.length, "difference");
+    find("differences-text").textContent = differences.length === 0 ? "The two hold the same."
+      : plural(differences.length, "difference");
     find("left").textContent = `Message ${left}`;
     find("right").textContent = `Message ${right}`;
     const side = (value) => h("td", {}, value === null ? "–" : visible(textOf(value)));
