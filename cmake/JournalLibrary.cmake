@@ -2,8 +2,9 @@
 function(journal_library target name)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
   target_compile_features(${target} PUBLIC cxx_std_11)
-  # Both need exceptions, even in a project that is built without.
-  target_compile_options(${target} PRIVATE -fexceptions)
+  # Both need exceptions, even in a project that is built without. In WebAssembly, running out of
+  # memory ends the program instead, and nothing else throws.
+  target_compile_options(${target} PRIVATE $<$<NOT:$<PLATFORM_ID:Emscripten>>:-fexceptions>)
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name}
     OUTPUT_NAME ${name}

@@ -139,12 +139,14 @@ private:
         {word::HANDLE, json::handle},
         {word::ACTIONTYPE, json::action},
         {word::UNIQUEIDTODELETE, json::uniqueIdToDelete},
-        {word::VALUE, kindOf(message) == Kind::outcome ? json::ok : json::value},
+        {word::VALUE, json::value},
         {word::SCHEMA, json::schema},
         {word::REASONFORMESSAGE, json::reason},
         {word::CALL_LOG_ENABLED, json::callLogEnabled}};
     if (piece.element == word::ENTRYID)
       return at(json::entryIds, entryIds++);
+    if (piece.element == word::VALUE && kindOf(message) == Kind::outcome)
+      return std::string(json::ok);
     auto const name = names.find(piece.element);
     return name == names.end() ? std::string() : std::string(name->second);
   }

@@ -9,9 +9,9 @@
 
 namespace {
 
-std::vector<std::string> const commands{"identify", "decode", "encode",    "make",   "explain",
-                                        "check",    "diff",   "watch",     "replay", "stats",
-                                        "methods",  "schema", "completion"};
+std::vector<std::string> const commands{"identify", "decode", "encode",     "make",   "explain",
+                                        "check",    "diff",   "watch",      "replay", "stats",
+                                        "methods",  "schema", "completion", "report"};
 
 std::string page() {
   static auto const text = run("cat \"" JOURNAL_SOURCE_DIR "/docs/man/journalmsg.1\"").out;

@@ -1,6 +1,6 @@
 // Elements and texts.
 
-/** An element with attributes, listeners (onclick ...), data and children; null children are left out. */
+/** An element with attributes, listeners (onclick ...) and children; null ones are left out. */
 export function h(tag, attributes = {}, ...children) {
   const element = document.createElement(tag);
   for (const [name, value] of Object.entries(attributes)) {

@@ -7,7 +7,8 @@ const severities = ["error", "warning", "note"];
 function badges(message) {
   return severities
     .filter((severity) => message[severity] > 0)
-    .map((severity) => h("span", { class: `badge ${severity}` }, plural(message[severity], severity)));
+    .map((severity) =>
+      h("span", { class: `badge ${severity}` }, plural(message[severity], severity)));
 }
 
 export class List {
@@ -99,8 +100,9 @@ export class List {
     if (present.length > 0 && !this.rows.querySelector("[tabindex='0']"))
       present[0].setAttribute("tabindex", "0");
     this.rows.hidden = present.length === 0; // an empty list is no list
-    this.range.textContent = `${first + 1}–${first + indices.length} of ${this.#shown.length.toLocaleString("en")}`;
-    if (indices.length === 0) this.range.textContent = "none";
+    const all = this.#shown.length.toLocaleString("en");
+    this.range.textContent =
+      indices.length === 0 ? "none" : `${first + 1}–${first + indices.length} of ${all}`;
     this.pager.hidden = this.#shown.length <= pageSize && this.#shown.length > 0;
     this.back.disabled = this.#page === 0;
     this.forward.disabled = first + pageSize >= this.#shown.length;
@@ -113,7 +115,8 @@ export class List {
     return h("div", { class: "row", role: "option", tabindex: "-1", "data-index": index,
                       "aria-selected": String(index === this.#selected),
                       onclick: () => this.select(index) },
-      h("span", { class: "title" }, h("span", { class: "number" }, `${index + 1}`), ` ${method || kind}`),
+      h("span", { class: "title" },
+        h("span", { class: "number" }, `${index + 1}`), ` ${method || kind}`),
       h("span", { class: "facts" }, facts.filter(Boolean).join(" · ")),
       h("span", { class: "badges" }, badges(message)));
   }

@@ -26,7 +26,8 @@ export class MessageView {
     find("copy").addEventListener("click", () => this.#copy());
     find("keep").addEventListener("click", () => this.#keep());
     find("log").append(...vocabulary.logs.map((log, at) => h("option", { value: at }, log)));
-    find("log").addEventListener("change", () => this.show(this.summary, Number(find("log").value)));
+    find("log").addEventListener("change", ({ target }) =>
+      this.show(this.summary, Number(target.value)));
     find("close-detail").addEventListener("click", () => this.#unmark());
     document.addEventListener("keydown", (event) => {
       if (event.key === "Escape") this.#unmark();
@@ -103,16 +104,19 @@ export class MessageView {
 
   #finding({ offset, severity, rule, element, what, text, instead }) {
     const { pieces } = this.shown.explanation;
-    const index = pieces.findIndex((piece) => piece.offset <= offset && offset < piece.offset + piece.size);
+    const index = pieces.findIndex((piece) =>
+      piece.offset <= offset && offset < piece.offset + piece.size);
     const quoted = (value) => `“${visible(textOf(value)).slice(0, 200)}”`;
-    const button = h("button", { type: "button", onclick: () => this.#choosePiece(index, find("pieces")) },
+    const choose = () => this.#choosePiece(index, find("pieces"));
+    const button = h("button", { type: "button", onclick: choose },
       `${element ? `${visible(textOf(element))}: ` : ""}${what}`);
     return h("li", {},
       h("span", { class: `badge ${severity}` }, severity), " ",
       index < 0 ? button.textContent : button,
       text === "" ? null : h("span", {}, ` ${quoted(text)}`),
       instead === "" || instead === text ? null : h("span", {}, `, readers get ${quoted(instead)}`),
-      h("p", { class: "why" }, `${this.rules.get(rule).why} `, h("code", {}, rule), ` at offset ${offset}`));
+      h("p", { class: "why" },
+        `${this.rules.get(rule).why} `, h("code", {}, rule), ` at offset ${offset}`));
   }
 
   // ---- A piece and its field
@@ -190,20 +194,30 @@ export class MessageView {
   }
 
   async #compare() {
-    const isSame = this.base === this.summary;
-    find("keep").textContent = this.base === null ? "Compare with another message"
-      : `Stop comparing with ${this.base.index + 1}`;
-    find("differences").hidden = this.base === null;
-    if (this.base === null) return;
-    find("differences-title").textContent = isSame ? "Compare"
-      : `Differences between ${this.base.index + 1} and ${this.summary.index + 1}`;
-    const differences = isSame ? []
-      : await this.client.ask("compare", { left: this.base.index, right: this.summary.index });
-    find("differences-text").textContent = isSame ? "Choose the other message from the list."
-      : differences.length === 0 ? "The two hold the same." : plural(differences.length, "difference");
+    const { base, summary } = this;
+    find("keep").textContent = base === null ? "Compare with another message"
+      : `Stop comparing with ${base.index + 1}`;
+    find("differences").hidden = base === null;
+    find("differences-table").hidden = true;
+    find("differences-title").textContent = "Differences";
+    find("differences-text").textContent = "Choose the other message from the list.";
+    if (base === null || base === summary) return;
+    const differences =
+      await this.client.ask("compare", { left: base.index, right: summary.index });
+    if (this.base === base && this.summary === summary) this.#renderDifferences(differences);
+  }
+
+  #renderDifferences(differences) {
+    const [left, right] = [this.base, this.summary].map(({ index }) => index + 1);
+    find("differences-title").textContent = `Differences between ${left} and ${right}`;
+    find("differences-text").textContent = differences.length === 0 ? "The two hold the same."
+      : plural(differences.length, "difference");
+    find("left").textContent = `Message ${left}`;
+    find("right").textContent = `Message ${right}`;
     const side = (value) => h("td", {}, value === null ? "–" : visible(textOf(value)));
+    const what = ({ entry, field }) => [visible(textOf(entry)), field].filter(Boolean).join(": ");
     find("differences-rows").replaceChildren(...differences.slice(0, 1000).map((difference) =>
-      h("tr", {}, h("th", { scope: "row" }, [textOf(difference.entry), difference.field].filter(Boolean).join(": ")),
+      h("tr", {}, h("th", { scope: "row" }, what(difference)),
         side(difference.left), side(difference.right))));
     find("differences-table").hidden = differences.length === 0;
   }

@@ -75,7 +75,8 @@ export class Records {
     if (!Array.isArray(value)) return this.#object(value, path);
     const items = h("div", { class: "items" });
     const more = h("button", { type: "button", class: "more" });
-    const records = value.map((item, index) => [item, `${path}[${index}]`]).filter(([item]) => isRecord(item));
+    const records = value.map((item, index) => [item, `${path}[${index}]`])
+      .filter(([item]) => isRecord(item));
     let next = 0;
     const add = (upTo = next + portion) => {
       items.append(...records.slice(next, upTo).map(([item, at]) => this.#object(item, at)));

@@ -11,7 +11,7 @@ before(async () => {
   browser = await launch();
   page = await openPage(browser);
   const wasm = readFileSync(join(root, "build/web/web/journal_web.wasm")).toString("base64");
-  const source = readFileSync(join(root, "web/src/engine.js"), "utf8").replace("export async", "async");
+  const source = readFileSync(join(root, "web/src/engine.js"), "utf8").replace("export ", "");
   await page.evaluate(`(async () => {
     ${source}
     const bytesOf = (base64) => Uint8Array.from(atob(base64), (c) => c.charCodeAt(0));

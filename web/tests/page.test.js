@@ -24,6 +24,8 @@ afterEach(async () => {
   await page.context().close();
 });
 
+const openFile = (name, buffer) =>
+  page.setInputFiles("#file", { name, mimeType: "application/octet-stream", buffer });
 const rows = () => page.$$eval(".row .title", (all) => all.map((row) => row.textContent));
 const fieldText = (path) => page.textContent(`[data-path="${path}"].field`);
 const decoded = async () => {
@@ -39,8 +41,9 @@ test("a pasted message is listed and its records are shown", async () => {
   assert.deepEqual(await rows(), ["1 deleteMissedCallList"]);
   await page.waitForSelector(".field");
   assert.equal(await fieldText("entryIds[2]"), "a&b");
-  assert.deepEqual(await decoded(),
-                   { kind: "request", method: "deleteMissedCallList", entryIds: ["10", "9", "a&b"] });
+  assert.deepEqual(await decoded(), {
+    kind: "request", method: "deleteMissedCallList", entryIds: ["10", "9", "a&b"],
+  });
 });
 
 test("a text without messages says so", async () => {
@@ -49,7 +52,8 @@ test("a text without messages says so", async () => {
 });
 
 test("samples open", async () => {
-  const titles = await page.$$eval("#sample option[value]:not([hidden])", (all) => all.map((o) => o.label));
+  const options = "#sample option[value]:not([hidden])";
+  const titles = await page.$$eval(options, (all) => all.map((option) => option.label));
   assert.ok(titles.length >= 7);
   for (const label of titles) {
     await page.selectOption("#sample", { label });
@@ -62,14 +66,15 @@ test("samples open", async () => {
 test("a capture file: every golden message is found and shown in full", async () => {
   const texts = golden().map((path) => readFileSync(path));
   const capture = Buffer.concat(texts.flatMap((text) => [text, Buffer.from("\n")]));
-  await page.setInputFiles("#file", { name: "golden.log", mimeType: "text/plain", buffer: capture });
+  await openFile("golden.log", capture);
   assert.equal(await finished(page), `${texts.length} messages in golden.log.`);
   for (let at = 0; at < texts.length; at++) {
     await page.click(`.row[data-index="${at}"]`);
-    await until(page, (n) => document.querySelector("#title").textContent.startsWith(`${n}: `), at + 1);
-    await until(page,
-      (text) => [...document.querySelectorAll(".piece")].map((p) => p.textContent).join("") === text,
-      texts[at].toString("utf8").replace(/\n/g, "⏎"));
+    await until(page, (text) => {
+      const pieces = [...document.querySelectorAll(".piece")];
+      return pieces.map((piece) => piece.textContent).join("") === text;
+    }, texts[at].toString("utf8").replace(/\n/g, "⏎"));
+    assert.ok((await page.textContent("#title")).startsWith(`${at + 1}: `));
   }
 });
 
@@ -82,31 +87,47 @@ test("a capture as a hexadecimal dump, and one that is dropped", async () => {
     return data;
   }, list);
   await page.dispatchEvent("body", "drop", { dataTransfer: transfer });
-  await until(page, () => document.querySelector("#status").textContent === "1 message in dropped.log.");
+  assert.equal(await finished(page), "1 message in dropped.log.");
 });
 
 test("a compressed capture is unpacked", async () => {
   const buffer = gzipSync((list + "\n").repeat(50));
-  await page.setInputFiles("#file", { name: "capture.gz", mimeType: "application/gzip", buffer });
+  await openFile("capture.gz", buffer);
   assert.equal(await finished(page), "50 messages in capture.gz.");
-  const cut = buffer.subarray(0, buffer.length / 2);
-  await page.setInputFiles("#file", { name: "cut.gz", mimeType: "application/gzip", buffer: cut });
+  await openFile("twice.gz", Buffer.concat([buffer, buffer]));
+  assert.match(await finished(page), / in twice\.gz\. Junk found after end/);
+  await openFile("cut.gz", buffer.subarray(0, buffer.length / 2));
   assert.match(await finished(page), / in cut\.gz\. .*truncated/);
 });
 
 test("elements and fields are linked both ways", async () => {
   await inspect(page, list);
   await page.click('.piece[data-path="entries[0].callInfoList[0].number"]');
-  const marked = () => page.$$eval(".marked", (all) => all.map((m) => [m.classList[0], m.dataset.path]));
+  const marked = () =>
+    page.$$eval(".marked", (all) => all.map((m) => `${m.classList[0]} ${m.dataset.path}`));
   const path = "entries[0].callInfoList[0].number";
-  assert.deepEqual(await marked(), [["piece", path], ["field", path]]);
+  assert.deepEqual(await marked(), [`piece ${path}`, `field ${path}`]);
   assert.match(await page.textContent("#detail"), /Number → .*kept: read and stored/);
   await page.click('.field[data-path="entries[0].surname"]');
-  assert.deepEqual(await marked(), [["piece", "entries[0].surname"], ["field", "entries[0].surname"]]);
+  assert.deepEqual(await marked(), ["piece entries[0].surname", "field entries[0].surname"]);
   await page.click('.field[data-path="entries[0].callInfoList[0].connectedNumber"]');
   assert.match(await page.textContent("#detail"), /no such element/);
   await page.keyboard.press("Escape");
   assert.ok(await page.isHidden("#detail"));
+});
+
+test("elements of the message itself are linked, by the kind of the message", async () => {
+  const declaration = '<?xml version="1.0" encoding="utf-8"?>';
+  const messages = [
+    ["<Value>Success</Value>", "ok", "true"],
+    [`${declaration}<Method><missedCallsCountUpdate></Method><Value>3</Value>`, "value", "3"],
+    ["<CallLogEnabled>false</CallLogEnabled>", "callLogEnabled", "false"],
+  ];
+  for (const [message, path, value] of messages) {
+    await inspect(page, message);
+    await page.click(`.piece[data-path="${path}"]`);
+    assert.equal(await page.textContent(".field.marked"), value);
+  }
 });
 
 test("colours say what becomes of each element", async () => {
@@ -128,14 +149,16 @@ test("colours say what becomes of each element", async () => {
   await page.click('.row[data-index="3"]');
   await shownTitle("4: deleteMissedCallList");
   await page.waitForSelector('.piece:has-text("EntryId")');
-  assert.equal(await page.textContent(".piece.fate-dropped .value, .piece.fate-damaged .value"), "");
+  const lost = ".piece.fate-dropped .value, .piece.fate-damaged .value";
+  assert.equal(await page.textContent(lost), "");
 });
 
 test("findings carry their rules and lead to the element", async () => {
   await inspect(page, damaged);
   await page.waitForSelector("#findings li");
   const texts = await page.$$eval("#findings li", (all) => all.map((item) => item.textContent));
-  assert.ok(texts.some((text) => /warning.*NumberType: an unknown word.*SATELLITE.*NO_ICON.*not-a-member/.test(text)));
+  const expected = /warning.*NumberType: an unknown word.*SATELLITE.*NO_ICON.*not-a-member/;
+  assert.ok(texts.some((text) => expected.test(text)));
   await page.click('#findings button:has-text("an unknown element")');
   assert.equal(await page.textContent(".piece.marked"), "<Ringtone>bell</Ringtone>");
   await inspect(page, list);
@@ -180,7 +203,8 @@ test("numbers and names are masked on demand", async () => {
 });
 
 test("markup and scripts in a message stay text", async () => {
-  const evil = `<Method><getMissedCallList></Method><Entry><UniqueId>&lt;img src=x onerror=alert(1)></UniqueId>` +
+  const evil = `<Method><getMissedCallList></Method><Entry>` +
+    `<UniqueId>&lt;img src=x onerror=alert(1)></UniqueId>` +
     `<Surname><script>alert(1)</script></Surname></Entry><Handle>1</Handle>`;
   await inspect(page, evil);
   await page.waitForSelector(".field");
@@ -190,8 +214,9 @@ test("markup and scripts in a message stay text", async () => {
 
 test("the policy forbids the network and foreign scripts", async () => {
   const policy = await page.getAttribute("meta[http-equiv]", "content");
-  assert.match(policy, /^default-src 'none'; script-src 'sha256-[^']+' 'wasm-unsafe-eval'; style-src 'sha256-[^']+'; worker-src blob:/);
-  assert.ok(!/https?:|unsafe-inline|\*/.test(policy));
+  assert.equal(policy.replace(/sha256-[^']+/g, "HASH"),
+    "default-src 'none'; script-src 'HASH' 'wasm-unsafe-eval'; style-src 'HASH'; " +
+    "worker-src blob:; base-uri 'none'; form-action 'none'");
   const tried = await page.evaluate(async () => {
     const fetched = await fetch("http://127.0.0.1:9/").then(() => "sent", () => "refused");
     const script = document.createElement("script");
@@ -200,7 +225,8 @@ test("the policy forbids the network and foreign scripts", async () => {
     return [fetched, window.intruded];
   });
   assert.deepEqual(tried, ["refused", undefined]);
-  assert.ok(page.errors.length >= 2 && page.errors.every((text) => /Content Security Policy/.test(text)));
+  assert.ok(page.errors.length >= 2);
+  assert.ok(page.errors.every((text) => /Content Security Policy/.test(text)));
   page.errors.length = page.requests.length = 0;
 });
 
@@ -220,7 +246,8 @@ test("a report by journalmsg opens its messages", async () => {
   assert.match(await plain.textContent("#pieces"), /Brandt & Sons/);
   assert.match(await plain.textContent("#facts"), /at offset 0, line 1$/);
   await plain.click('.row[data-index="1"]');
-  await until(plain, () => /at offset 707, line 2$/.test(document.querySelector("#facts").textContent));
+  await until(plain, () =>
+    document.querySelector("#facts").textContent.endsWith("at offset 707, line 2"));
   await plain.context().close();
   const masked = await report("--redact");
   assert.ok(!(await masked.textContent("#pieces")).includes("Brandt"));

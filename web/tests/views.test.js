@@ -51,7 +51,11 @@ const views = {
     return "#which-log";
   },
   reading: async (page) => {
-    await page.evaluate(() => (document.querySelector("#reading").hidden = false));
+    await page.evaluate(() => {
+      document.querySelector("#reading").hidden = false;
+      document.querySelector("#reading-name").textContent = "Reading capture.log";
+      document.querySelector("#progress").value = 0.4;
+    });
     return "h1";
   },
 };
@@ -64,7 +68,8 @@ async function violations(page) {
   await page.evaluate(axe);
   const results = await page.evaluate(() => axe.run());
   assert.ok(results.passes.length > 15); // it did look
-  return results.violations.map(({ id, nodes }) => `${id}: ${nodes.map((n) => n.html).slice(0, 3).join(" ")}`);
+  return results.violations.map(({ id, nodes }) =>
+    `${id}: ${nodes.map((node) => node.html).slice(0, 3).join(" ")}`);
 }
 
 /** How many pixels the page is wider than the window. */
