@@ -98,7 +98,8 @@ def scan(megabytes):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
+    parser = argparse.ArgumentParser(
+        description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
     parser.add_argument('--scan', type=int, metavar='MEGABYTES')
     options = parser.parse_args()
     # First, while little memory has been taken.

@@ -100,8 +100,8 @@ def check(message: Union[Data, Message], kind: Optional[Kind] = None) -> List[Fi
     """
     findings = []
     for rule, offset, element, text, instead in _native.check(_data(message), kind):
-        _, severity, what, why = _rules[rule]
-        findings.append(Finding(_rules[rule].id, severity, offset, element, text, instead, what, why))
+        name, severity, what, why = _rules[rule]
+        findings.append(Finding(name, severity, offset, element, text, instead, what, why))
     return findings
 
 
@@ -136,7 +136,8 @@ def diff(
     :return: the differences, an empty list when the records are equal
 
     >>> import journalmessages as jm
-    >>> print(jm.diff(jm.ListResponse(jm.Kind.MISSED, handle=1), jm.ListResponse(jm.Kind.MISSED))[0])
+    >>> left, right = jm.ListResponse(jm.Kind.MISSED, handle=1), jm.ListResponse(jm.Kind.MISSED)
+    >>> print(jm.diff(left, right)[0])
     handle: '1' != '0'
     """
     return [Difference(*found) for found in _native.diff(left, right, ignore)]

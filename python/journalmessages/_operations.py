@@ -1,4 +1,4 @@
-"""Makes the functions of the modules that build messages, from the library's table of operations."""
+"""Makes the functions that build messages, from the library's table of operations."""
 from __future__ import annotations
 
 import re

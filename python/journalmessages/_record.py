@@ -8,7 +8,7 @@ from typing import Any, Dict, List, Optional, Tuple, Type
 
 
 class Message:
-    """A message of the journal service: something that :func:`decode` gives and :func:`encode` takes."""
+    """A message of the journal service: what :func:`decode` gives and :func:`encode` takes."""
 
     __slots__ = ()
     _raw: Optional[bytes] = None
@@ -87,7 +87,7 @@ def _shown(value: object) -> str:
 
 
 class Entry(Record, Message):
-    """One party of a log with its calls: a MissedEntry, DialledEntry, ReceivedEntry or ForwardedEntry."""
+    """One party of a log with its calls: a MissedEntry or one of its siblings."""
 
     __slots__ = ()
 
@@ -102,7 +102,7 @@ def _restored(record: Type[Entry], values: Tuple[Any, ...], raw: Optional[bytes]
 
 
 class Call(Record):
-    """One call of an entry: a MissedCall, DialledCall, ReceivedCall or ForwardedCall."""
+    """One call of an entry: a MissedCall or one of its siblings."""
 
     __slots__ = ()
 

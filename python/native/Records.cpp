@@ -1,11 +1,11 @@
 #include "Records.h"
 
 #include <cctype>
-#include <limits>
 #include <string>
 #include <vector>
 
 #include "Enumerations.h"
+#include "Fields.h"
 #include "Text.h"
 
 namespace python {
@@ -13,7 +13,6 @@ namespace {
 
 using inspect::Field;
 using inspect::Log;
-using inspect::Type;
 
 /// An attribute of a record. The list of calls has no field.
 struct Attribute {
@@ -70,11 +69,13 @@ PyObject* newObject(PyTypeObject* type, Class const& own, std::shared_ptr<void> 
 }
 
 PyObject* create(PyTypeObject* type, PyObject*, PyObject*) {
-  for (Class const& one : classes)
-    if (PyType_IsSubtype(type, one.type))
-      return newObject(type, one, one.make());
-  PyErr_SetString(PyExc_TypeError, "not a class of records");
-  return nullptr;
+  auto const run = [&] {
+    for (Class const& one : classes)
+      if (PyType_IsSubtype(type, one.type))
+        return newObject(type, one, one.make());
+    throw py::type_error("not a class of records");
+  };
+  return guarded(run, static_cast<PyObject*>(nullptr));
 }
 
 int clear(PyObject* self) {
@@ -100,14 +101,6 @@ void destroy(PyObject* self) {
 
 // ---- Attributes
 
-PyObject* valueOf(Field const& field, void* record) {
-  if (field.type == Type::text)
-    return newText(field.text(record));
-  auto const number = inspect::numberIn(field, record);
-  return field.type == Type::flag ? PyBool_FromLong(number)
-                                  : newMember(enumerationOf(field.type), number);
-}
-
 PyObject* callsOf(Object* self) {
   if (self->calls == nullptr) {
     py::list calls;
@@ -123,76 +116,27 @@ PyObject* callsOf(Object* self) {
 PyObject* get(PyObject* self, void* closure) {
   auto const* const field = static_cast<Attribute const*>(closure)->field;
   if (field != nullptr)
-    return valueOf(*field, object(self)->record.get());
-  try {
-    return callsOf(object(self));
-  } catch (py::error_already_set& error) {
-    error.restore();
-    return nullptr;
-  }
-}
-
-[[noreturn]] void expected(Attribute const& attribute, char const* what, py::handle value) {
-  throw py::type_error(attribute.name + " takes " + what + ", not " +
-                       Py_TYPE(value.ptr())->tp_name);
-}
-
-std::int32_t numberFrom(Attribute const& attribute, py::handle value) {
-  if (!PyLong_Check(value.ptr()))
-    expected(attribute, "a member of its enumeration or an int", value);
-  int overflow = 0;
-  auto const number = PyLong_AsLongLongAndOverflow(value.ptr(), &overflow);
-  if (overflow != 0 || number < std::numeric_limits<std::int32_t>::min() ||
-      number > std::numeric_limits<std::int32_t>::max())
-    throw py::value_error(attribute.name + " takes an int of 32 bits");
-  return static_cast<std::int32_t>(number);
-}
-
-void setField(Attribute const& attribute, void* record, py::handle value) {
-  Field const& field = *attribute.field;
-  if (field.type == Type::text) {
-    if (!PyUnicode_Check(value.ptr()))
-      expected(attribute, "a str", value);
-    field.text(record) = bytesOfText(value);
-  } else if (field.type == Type::flag) {
-    if (!PyBool_Check(value.ptr()))
-      expected(attribute, "a bool", value);
-    inspect::setNumber(field, record, value.ptr() == Py_True ? 1 : 0);
-  } else {
-    inspect::setNumber(field, record, numberFrom(attribute, value));
-  }
+    return newValue(*field, object(self)->record.get());
+  return guarded([&] { return callsOf(object(self)); }, static_cast<PyObject*>(nullptr));
 }
 
 void setAttribute(Attribute const& attribute, Object* self, py::handle value) {
   if (!value)
     throw py::type_error(attribute.name + " cannot be deleted");
   if (attribute.field != nullptr)
-    return setField(attribute, self->record.get(), value);
+    return setValue(*attribute.field, self->record.get(), attribute.name, value);
   if (!PyList_Check(value.ptr()))
-    expected(attribute, "a list", value);
+    throwExpected(attribute.name, "a list", value);
   Py_INCREF(value.ptr());
   Py_XSETREF(self->calls, value.ptr());
 }
 
-/// Runs what may throw for a function of the interpreter that gives 0 or -1.
-template <class Run>
-int guarded(Run&& run) {
-  try {
-    run();
-    return 0;
-  } catch (py::error_already_set& error) {
-    error.restore();
-  } catch (py::value_error const& error) {
-    PyErr_SetString(PyExc_ValueError, error.what());
-  } catch (py::type_error const& error) {
-    PyErr_SetString(PyExc_TypeError, error.what());
-  }
-  return -1;
-}
-
 int set(PyObject* self, PyObject* value, void* closure) {
-  return guarded(
-      [&] { setAttribute(*static_cast<Attribute const*>(closure), object(self), value); });
+  auto const run = [&] {
+    setAttribute(*static_cast<Attribute const*>(closure), object(self), value);
+    return 0;
+  };
+  return guarded(run, -1);
 }
 
 Attribute const& attributeNamed(Class const& own, std::string const& name) {
@@ -209,7 +153,7 @@ void initialise(Object* self, py::args const& positional, py::kwargs const& name
   for (std::size_t at = 0; at < positional.size(); ++at)
     setAttribute(attributes[at], self, positional[at]);
   for (auto const& [key, value] : named) {
-    auto const& attribute = attributeNamed(*self->own, py::cast<std::string>(key));
+    auto const& attribute = attributeNamed(*self->own, bytesOfText(key));
     if (&attribute < &attributes[0] + positional.size())
       throw py::type_error(attribute.name + " is given twice");
     setAttribute(attribute, self, value);
@@ -217,10 +161,12 @@ void initialise(Object* self, py::args const& positional, py::kwargs const& name
 }
 
 int init(PyObject* self, PyObject* positional, PyObject* named) {
-  return guarded([&] {
+  auto const run = [&] {
     initialise(object(self), py::reinterpret_borrow<py::args>(positional),
                named == nullptr ? py::kwargs() : py::reinterpret_borrow<py::kwargs>(named));
-  });
+    return 0;
+  };
+  return guarded(run, -1);
 }
 
 PyObject* getRaw(PyObject* self, void*) {

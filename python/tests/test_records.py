@@ -80,6 +80,9 @@ def test_values_of_another_type(name, value):
 def test_other_arguments():
     with pytest.raises(TypeError, match="surnam"):
         jm.MissedEntry(surnam="Berg")
+    for name in ("\udcff", "\ud800"):
+        with pytest.raises((TypeError, UnicodeEncodeError)):
+            jm.MissedEntry(**{name: "Berg"})
     with pytest.raises(TypeError, match="twice"):
         jm.MissedEntry("1", unique_id="2")
     with pytest.raises(TypeError):
