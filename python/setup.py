@@ -20,16 +20,33 @@ WORK.mkdir(parents=True, exist_ok=True)
 class CMakeBuild(build_ext):
     def run(self):
         """In the folder of an earlier build, if one is given."""
-        build = Path(os.environ.get('JOURNAL_PYTHON_BUILD', Path(self.build_temp) / 'cmake')).resolve()
+        build = Path(
+            os.environ.get('JOURNAL_PYTHON_BUILD', Path(self.build_temp) / 'cmake')
+        ).resolve()
         subprocess.check_call(
-            ['cmake', '-G', 'Ninja', '-S', ROOT, '-B', build, '-DCMAKE_BUILD_TYPE=Release',
-             '-DBUILD_SHARED_LIBS=OFF', '-DJOURNAL_BUILD_TESTING=OFF', '-DJOURNAL_BUILD_PYTHON=ON',
-             f'-DPython_EXECUTABLE={sys.executable}'])
+            [
+                'cmake',
+                '-G',
+                'Ninja',
+                '-S',
+                ROOT,
+                '-B',
+                build,
+                '-DCMAKE_BUILD_TYPE=Release',
+                '-DBUILD_SHARED_LIBS=OFF',
+                '-DJOURNAL_BUILD_TESTING=OFF',
+                '-DJOURNAL_BUILD_PYTHON=ON',
+                f'-DPython_EXECUTABLE={sys.executable}',
+            ]
+        )
         subprocess.check_call(['cmake', '--build', build])
         target = Path(self.build_lib) / 'journalmessages'
         shutil.rmtree(target, ignore_errors=True)
-        shutil.copytree(build / 'python' / 'journalmessages', target,
-                        ignore=shutil.ignore_patterns('__pycache__'))
+        shutil.copytree(
+            build / 'python' / 'journalmessages',
+            target,
+            ignore=shutil.ignore_patterns('__pycache__'),
+        )
 
 
 setup(

@@ -33,9 +33,9 @@ def _differences(left: Any, right: Any) -> List[str]:
 
 def pytest_assertrepr_compare(op: str, left: object, right: object) -> Optional[List[str]]:
     """Explains a failed ``==`` of two messages, entries or calls, or of the bytes of messages."""
-    comparable = (
-        type(left) is type(right) and isinstance(left, (jm.Message, jm.Call))
-    ) or (_is_message(left) and _is_message(right))
+    comparable = (type(left) is type(right) and isinstance(left, (jm.Message, jm.Call))) or (
+        _is_message(left) and _is_message(right)
+    )
     if op != "==" or not comparable:
         return None
     what = "bytes of messages" if isinstance(left, bytes) else type(left).__name__

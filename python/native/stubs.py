@@ -47,8 +47,11 @@ def make(name: str, arguments: Iterable[str]) -> bytes: ...
 
 
 def classes(base):
-    return [value for value in vars(_native).values()
-            if isinstance(value, type) and issubclass(value, base)]
+    return [
+        value
+        for value in vars(_native).values()
+        if isinstance(value, type) and issubclass(value, base)
+    ]
 
 
 def enumeration(cls):
@@ -71,27 +74,35 @@ def record(cls):
 
 def native():
     calls = classes(journalmessages.Call)
-    return ''.join([
-        HEAD,
-        'from dataclasses import dataclass\nfrom enum import IntEnum\n',
-        'from typing import Any, ClassVar, Iterable, List, Optional, Tuple, Union\n\n',
-        'from ._record import Call, Entry, Message\n\n',
-        'Data = Union[bytes, bytearray, memoryview, str]\n',
-        *map(enumeration, classes(enum.IntEnum)),
-        *map(record, calls + classes(journalmessages.Entry)),
-        FUNCTIONS,
-    ])
+    return ''.join(
+        [
+            HEAD,
+            'from dataclasses import dataclass\nfrom enum import IntEnum\n',
+            'from typing import Any, ClassVar, Iterable, List, Optional, Tuple, Union\n\n',
+            'from ._record import Call, Entry, Message\n\n',
+            'Data = Union[bytes, bytearray, memoryview, str]\n',
+            *map(enumeration, classes(enum.IntEnum)),
+            *map(record, calls + classes(journalmessages.Entry)),
+            FUNCTIONS,
+        ]
+    )
 
 
 def built(name):
     """A module of functions that build messages."""
     module = importlib.import_module(f'journalmessages.{name}')
-    lines = [HEAD, 'from typing import Iterable, Union\n\n',
-             'from ._native import Action, ', ', '.join(
-                 cls.__name__ for cls in classes(journalmessages.Entry)), '\n\n']
+    lines = [
+        HEAD,
+        'from typing import Iterable, Union\n\n',
+        'from ._native import Action, ',
+        ', '.join(cls.__name__ for cls in classes(journalmessages.Entry)),
+        '\n\n',
+    ]
     for function in module.__all__:
         signature = str(inspect.signature(getattr(module, function)))
-        signature = re.sub(r" = (\(\)|<[^>]*>|'[^']*'|[^,)]+)", ' = ...', signature).replace("'", '')
+        signature = re.sub(r" = (\(\)|<[^>]*>|'[^']*'|[^,)]+)", ' = ...', signature).replace(
+            "'", ''
+        )
         lines.append(f'def {function}{signature}: ...\n')
     return ''.join(lines)
 

@@ -52,7 +52,9 @@ def test_a_request_for_one_entry_takes_one_id():
         jm.requests.delete_missed_call([7])
 
 
-@pytest.mark.parametrize("name", ["read_enabled_state", "read_missed_call_list", "delete_dialled_call_list"])
+@pytest.mark.parametrize(
+    "name", ["read_enabled_state", "read_missed_call_list", "delete_dialled_call_list"]
+)
 def test_store_requests_are_the_golden_ones(name, golden):
     words = name.split("_")
     operation = words[0] + "".join(word.capitalize() for word in words[1:])

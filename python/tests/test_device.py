@@ -41,7 +41,9 @@ class Device:
             self.log.handle += 1
             return [
                 jm.responses.success(),
-                jm.notifications.missed_calls_update(entry, jm.Action.ENTRY_DELETED, self.log.handle),
+                jm.notifications.missed_calls_update(
+                    entry, jm.Action.ENTRY_DELETED, self.log.handle
+                ),
             ]
         return [jm.responses.failure()]
 

@@ -7,7 +7,16 @@ import pytest
 
 import journalmessages as jm
 
-MODULES = ["_codec", "_inspect", "_record", "requests", "store", "notifications", "responses", "lowlevel"]
+MODULES = [
+    "_codec",
+    "_inspect",
+    "_record",
+    "requests",
+    "store",
+    "notifications",
+    "responses",
+    "lowlevel",
+]
 
 
 @pytest.mark.parametrize("name", MODULES)
@@ -30,4 +39,6 @@ def test_everything_public_is_documented():
     for module in (jm.requests, jm.store, jm.notifications, jm.responses):
         for name in module.__all__:
             assert getattr(module, name).__doc__, name
-    assert set(jm.__all__) == {name for name in dir(jm) if not name.startswith("_")} - {"pytest_plugin"}
+    assert set(jm.__all__) == {name for name in dir(jm) if not name.startswith("_")} - {
+        "pytest_plugin"
+    }

@@ -23,7 +23,9 @@ def test_constants():
     assert low.XMLHEADER == '<?xml version="1.0" encoding="utf-8"?>'
 
 
-@pytest.mark.parametrize("name", [name for name in low.__all__ if re.match("req|read|delete", name)])
+@pytest.mark.parametrize(
+    "name", [name for name in low.__all__ if re.match("req|read|delete", name)]
+)
 def test_requests_are_the_golden_ones(name, goldens):
     if name not in goldens:
         pytest.skip("no golden message")
@@ -115,11 +117,16 @@ def test_bytes_are_texts_too():
 
 @pytest.mark.parametrize(
     "call",
-    [lambda: low.respBool(), lambda: low.createXMLField("A", None), lambda: low.createXMLField("A", -1),
-     lambda: low.reqDeleteMissedCallList(["7"]), lambda: low.reqDeleteMissedCallList({7}),
-     lambda: low.respGetMissedCallList([jm.DialledEntry()], 7),
-     lambda: low.getXMLMissedCallInfo("", jm.DialledCall()),
-     lambda: low.convertNumberType(2**31)],
+    [
+        lambda: low.respBool(),
+        lambda: low.createXMLField("A", None),
+        lambda: low.createXMLField("A", -1),
+        lambda: low.reqDeleteMissedCallList(["7"]),
+        lambda: low.reqDeleteMissedCallList({7}),
+        lambda: low.respGetMissedCallList([jm.DialledEntry()], 7),
+        lambda: low.getXMLMissedCallInfo("", jm.DialledCall()),
+        lambda: low.convertNumberType(2**31),
+    ],
 )
 def test_other_arguments_are_type_errors(call):
     with pytest.raises(TypeError):

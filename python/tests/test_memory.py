@@ -13,8 +13,13 @@ def resident():
 
 
 def use(times):
-    texts = [jm.responses.get_missed_call_list([ENTRY] * 2, 7), jm.requests.delete_missed_call("7"),
-             jm.notifications.missed_calls_update(ENTRY), b"hello", b"<Surname>\xff</Surname>"]
+    texts = [
+        jm.responses.get_missed_call_list([ENTRY] * 2, 7),
+        jm.requests.delete_missed_call("7"),
+        jm.notifications.missed_calls_update(ENTRY),
+        b"hello",
+        b"<Surname>\xff</Surname>",
+    ]
     for _ in range(times // len(texts)):
         for text in texts:
             try:

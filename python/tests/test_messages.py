@@ -75,7 +75,9 @@ def test_every_buffer_is_taken():
 
 
 def test_damage_decodes_as_the_library_does():
-    log = jm.decode(b"<Method><getMissedCallList></Method><Entry><Surname>A</Surname></Entry><Entry>")
+    log = jm.decode(
+        b"<Method><getMissedCallList></Method><Entry><Surname>A</Surname></Entry><Entry>"
+    )
     assert [entry.surname for entry in log.entries] == ["A"]
     assert log.handle == 0
 
@@ -91,7 +93,9 @@ def test_strict_raises_with_the_findings():
 
 
 def test_an_outcome_behind_a_list_is_kept():
-    log = jm.decode(jm.responses.get_missed_call_list([jm.MissedEntry()], 7) + jm.responses.success())
+    log = jm.decode(
+        jm.responses.get_missed_call_list([jm.MissedEntry()], 7) + jm.responses.success()
+    )
     assert log.outcome is True
     assert jm.encode(log) == log.raw
 
@@ -123,7 +127,11 @@ def test_a_notification_applied_to_a_log():
     log = jm.ListResponse(jm.Kind.MISSED, [jm.MissedEntry(unique_id="1")], 7)
     added = jm.EntryNotification(jm.MissedEntry(unique_id="2"), jm.Action.ENTRY_ADDED, 8)
     after, problem = jm.apply(added, log)
-    assert ([entry.unique_id for entry in after.entries], after.handle, problem) == (["2", "1"], 8, "")
+    assert ([entry.unique_id for entry in after.entries], after.handle, problem) == (
+        ["2", "1"],
+        8,
+        "",
+    )
     assert len(log.entries) == 1
     _, problem = jm.apply(added, after)
     assert "already there" in problem

@@ -16,7 +16,9 @@ def run(pytester, code, *arguments):
 
 
 def test_differences_are_listed_value_by_value(pytester):
-    result = run(pytester, """
+    result = run(
+        pytester,
+        """
 def test_messages():
     assert log("Berg") == log("Sohn")
 def test_entries():
@@ -25,21 +27,31 @@ def test_calls():
     assert log("Berg").entries[0].calls[0] == log("Sohn").entries[0].calls[0]
 def test_bytes():
     assert log("Berg").raw == log("Sohn").raw
-""")
+""",
+    )
     result.assert_outcomes(failed=4)
-    for line in ("*ListResponse differ:*", "*m-1 surname: 'Berg' != 'Sohn'*",
-                 "*m-1 callInfoList*0*.number: 'Berg' != 'Sohn'*", "*MissedEntry differ:*",
-                 "*MissedCall differ:*", "*number: 'Berg' != 'Sohn'*", "*bytes of messages differ:*"):
+    for line in (
+        "*ListResponse differ:*",
+        "*m-1 surname: 'Berg' != 'Sohn'*",
+        "*m-1 callInfoList*0*.number: 'Berg' != 'Sohn'*",
+        "*MissedEntry differ:*",
+        "*MissedCall differ:*",
+        "*number: 'Berg' != 'Sohn'*",
+        "*bytes of messages differ:*",
+    ):
         result.stdout.fnmatch_lines([line])
 
 
 def test_other_comparisons_are_left_alone(pytester):
-    result = run(pytester, """
+    result = run(
+        pytester,
+        """
 def test_texts():
     assert b"one" == b"two"
 def test_order():
     assert log("Berg") != log("Berg")
-""")
+""",
+    )
     result.assert_outcomes(failed=2)
     assert "differ:" not in result.stdout.str()
 

@@ -30,8 +30,11 @@ def field(unset, name, markup):
 
 def records(record, markup, **more):
     unset = record()
-    fields = {name: field(getattr(unset, name), name, markup)
-              for name in record.__match_args__ if name != "calls"}
+    fields = {
+        name: field(getattr(unset, name), name, markup)
+        for name in record.__match_args__
+        if name != "calls"
+    }
     return st.builds(record, **fields, **more)
 
 
@@ -43,8 +46,11 @@ def entries(kind, markup=False):
 
 def logs(markup=False):
     handles = st.integers(0, 2**32 - 1)
-    return st.sampled_from(jm.Kind).flatmap(lambda kind: st.builds(
-        jm.ListResponse, st.just(kind), st.lists(entries(kind, markup), max_size=3), handles))
+    return st.sampled_from(jm.Kind).flatmap(
+        lambda kind: st.builds(
+            jm.ListResponse, st.just(kind), st.lists(entries(kind, markup), max_size=3), handles
+        )
+    )
 
 
 def as_read(log):
@@ -82,13 +88,41 @@ def test_the_ids_of_a_request(ids):
     assert request.entry_ids == sorted((one for one in ids if one), key=str.encode)
 
 
-TAGS = ["<Method>", "</Method>", "<getMissedCallList>", "<missedCallsUpdate>", "<Entry>", "</Entry>",
-        "<LogList>", "</LogList>", "<Item>", "</Item>", "<Number>", "</Number>", "<Handle>", "</Handle>",
-        "<Value>", "Success", "<EntryId>", "</EntryId>", "<Surname>", "</Surname>", "<Viewed>", "\0",
-        "<CallLogEnabled>", '<Schema name="', "&amp;", "\udcff", "7", "x" * 100]
+TAGS = [
+    "<Method>",
+    "</Method>",
+    "<getMissedCallList>",
+    "<missedCallsUpdate>",
+    "<Entry>",
+    "</Entry>",
+    "<LogList>",
+    "</LogList>",
+    "<Item>",
+    "</Item>",
+    "<Number>",
+    "</Number>",
+    "<Handle>",
+    "</Handle>",
+    "<Value>",
+    "Success",
+    "<EntryId>",
+    "</EntryId>",
+    "<Surname>",
+    "</Surname>",
+    "<Viewed>",
+    "\0",
+    "<CallLogEnabled>",
+    '<Schema name="',
+    "&amp;",
+    "\udcff",
+    "7",
+    "x" * 100,
+]
 
 
-@given(st.lists(st.sampled_from(TAGS) | anything, max_size=20), st.none() | st.sampled_from(jm.Kind))
+@given(
+    st.lists(st.sampled_from(TAGS) | anything, max_size=20), st.none() | st.sampled_from(jm.Kind)
+)
 @settings(max_examples=500)
 def test_no_text_raises_anything_but_what_is_documented(parts, kind):
     text = "".join(parts)

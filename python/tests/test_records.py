@@ -14,7 +14,9 @@ CALLS = [jm.MissedCall, jm.DialledCall, jm.ReceivedCall, jm.ForwardedCall]
 
 def log_of(*surnames):
     entries = [
-        jm.MissedEntry(surname=name, calls=[jm.MissedCall(number=f"{name}-{at}") for at in range(3)])
+        jm.MissedEntry(
+            surname=name, calls=[jm.MissedCall(number=f"{name}-{at}") for at in range(3)]
+        )
         for name in surnames
     ]
     return jm.decode(jm.responses.get_missed_call_list(entries, 7))
@@ -22,11 +24,26 @@ def log_of(*surnames):
 
 def test_the_fields_are_in_the_order_of_the_header():
     assert jm.MissedEntry.__match_args__ == (
-        "unique_id", "entry_id", "surname", "firstname", "picture", "calls", "viewed")
+        "unique_id",
+        "entry_id",
+        "surname",
+        "firstname",
+        "picture",
+        "calls",
+        "viewed",
+    )
     assert jm.DialledEntry.__match_args__[4:] == ("js_group_by", "calls", "picture")
     assert jm.ForwardedCall.__match_args__ == (
-        "info_key", "number", "number_type", "connected_number", "connected_number_type",
-        "connected_surname", "connected_first_name", "duration", "time_date")
+        "info_key",
+        "number",
+        "number_type",
+        "connected_number",
+        "connected_number_type",
+        "connected_surname",
+        "connected_first_name",
+        "duration",
+        "time_date",
+    )
 
 
 @pytest.mark.parametrize("record", ENTRIES + CALLS)
@@ -58,15 +75,27 @@ def test_every_field_is_set_by_position_by_name_and_as_attribute(record):
         assert getattr(by_attribute, name) == value
     assert by_position == by_name == by_attribute != record()
     assert eval(repr(by_name), vars(jm)) == by_name
-    assert pickle.loads(pickle.dumps(by_name)) == copy.copy(by_name) == copy.deepcopy(by_name) == by_name
+    assert (
+        pickle.loads(pickle.dumps(by_name))
+        == copy.copy(by_name)
+        == copy.deepcopy(by_name)
+        == by_name
+    )
     assert dataclasses.replace(by_name) == by_name
     assert list(dataclasses.asdict(by_name)) == list(record.__match_args__)
 
 
 @pytest.mark.parametrize(
     "name, value",
-    [("number", 5), ("number", b"5"), ("number", None), ("number_type", "MOBILE"),
-     ("number_type", 2**31), ("number_type", -2**31 - 1), ("info_key", 1.5)],
+    [
+        ("number", 5),
+        ("number", b"5"),
+        ("number", None),
+        ("number_type", "MOBILE"),
+        ("number_type", 2**31),
+        ("number_type", -(2**31) - 1),
+        ("info_key", 1.5),
+    ],
 )
 def test_values_of_another_type(name, value):
     call = jm.MissedCall()
@@ -208,7 +237,8 @@ def test_classes_can_be_derived():
 def test_a_repr_shows_what_is_set():
     entry = jm.MissedEntry(surname="Berg", calls=[jm.MissedCall(number_type=jm.NumberType.MOBILE)])
     assert repr(entry) == (
-        "MissedEntry(surname='Berg', calls=[MissedCall(number_type=NumberType.MOBILE)])")
+        "MissedEntry(surname='Berg', calls=[MissedCall(number_type=NumberType.MOBILE)])"
+    )
 
 
 def test_bytes_that_are_no_utf8_survive():

@@ -46,9 +46,20 @@ WRONG = [
 
 def mypy(folder, *arguments):
     return subprocess.run(
-        [sys.executable, "-m", "mypy", "--strict", "--cache-dir", str(folder / "cache"), *arguments],
-        cwd=folder, env={"MYPYPATH": str(PACKAGE.parent), "PATH": "/usr/bin:/bin"},
-        capture_output=True, text=True)
+        [
+            sys.executable,
+            "-m",
+            "mypy",
+            "--strict",
+            "--cache-dir",
+            str(folder / "cache"),
+            *arguments,
+        ],
+        cwd=folder,
+        env={"MYPYPATH": str(PACKAGE.parent), "PATH": "/usr/bin:/bin"},
+        capture_output=True,
+        text=True,
+    )
 
 
 @pytest.fixture(scope="module")
