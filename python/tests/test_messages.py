@@ -160,3 +160,42 @@ def test_other_threads_run_while_decoding(journal_samples):
     thread.join()
     # How much of the time the other thread had to wait at once: nearly all of it without a release.
     assert sorted(shares)[2] < 0.7, shares
+
+
+def test_threads_use_the_package_at_once():
+    text = jm.responses.get_missed_call_list([jm.MissedEntry(surname="Berg")] * 50, 7)
+    sizes = set()
+
+    def work():
+        for _ in range(200):
+            log = jm.decode(text)
+            log.entries[0].calls.append(jm.MissedCall())
+            sizes.add(len(jm.encode(log)))
+
+    threads = [threading.Thread(target=work) for _ in range(4)]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert len(sizes) == 1
+
+
+@pytest.mark.parametrize(
+    "call",
+    [
+        lambda: jm.decode(b"", "missed"),
+        lambda: jm.encode(jm.ListResponse("missed")),
+        lambda: jm.check(None),
+        lambda: jm.diff(3, b""),
+        lambda: jm.apply(jm.Setting(True), jm.Setting(True)),
+    ],
+)
+def test_arguments_of_another_type(call):
+    with pytest.raises(TypeError):
+        call()
+
+
+def test_json_that_is_no_message():
+    for text in ("{", "[]", '{"kind":"nothing"}'):
+        with pytest.raises(ValueError):
+            jm.from_json(text)
