@@ -88,6 +88,7 @@ def prose(text, path):
     # A link can go over the end of a line; a reference cannot.
     text = re.sub(r'(\[[^]\n]*)\n([^]\n]*\]\()', r'\1 \2', text)
     text = LINK.sub(linked(path), text)
+    text = re.sub(r'(!\[[^]]*\]\()[^)]*/', r'\1', text)  # IMAGE_PATH has the folders of images
     text = re.sub(r'`([^`]+)`', code, text)
     return re.sub(r'^#+ (.*)$', lambda found: f'{found[0]} {{#{identifier(path, slug(found[1]))}}}',
                   text, flags=re.M)
