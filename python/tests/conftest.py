@@ -3,12 +3,17 @@ import sys
 from pathlib import Path
 
 import pytest
+from hypothesis import settings
 
 pytest_plugins = ["pytester"]
 collect_ignore = [] if sys.version_info >= (3, 10) else ["test_match.py"]
 if not hasattr(pytest, "Pytester"):  # older than pytest 6.2
     collect_ignore.append("test_plugin.py")
 GOLDEN = Path(__file__).parents[2] / "tests" / "golden"
+
+# A busy machine makes an example slow without being wrong.
+settings.register_profile("journal", deadline=None)
+settings.load_profile("journal")
 
 
 @pytest.fixture
