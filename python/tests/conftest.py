@@ -11,8 +11,8 @@ if not hasattr(pytest, "Pytester"):  # older than pytest 6.2
     collect_ignore.append("test_plugin.py")
 GOLDEN = Path(__file__).parents[2] / "tests" / "golden"
 
-# A busy machine makes an example slow without being wrong.
-settings.register_profile("journal", deadline=None)
+# A busy machine makes an example slow without being wrong. Examples are not kept in the tree.
+settings.register_profile("journal", deadline=None, database=None)
 settings.load_profile("journal")
 
 
