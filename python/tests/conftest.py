@@ -3,17 +3,24 @@ import sys
 from pathlib import Path
 
 import pytest
-from hypothesis import settings
+
+# Nothing is written into the tree.
+ROOT = Path(__file__).parents[2]
+os.environ.setdefault("HYPOTHESIS_STORAGE_DIRECTORY", str(ROOT / "build" / "hypothesis"))
 
 pytest_plugins = ["pytester"]
 collect_ignore = [] if sys.version_info >= (3, 10) else ["test_match.py"]
 if not hasattr(pytest, "Pytester"):  # older than pytest 6.2
     collect_ignore.append("test_plugin.py")
-GOLDEN = Path(__file__).parents[2] / "tests" / "golden"
+GOLDEN = ROOT / "tests" / "golden"
 
-# A busy machine makes an example slow without being wrong. Examples are not kept in the tree.
-settings.register_profile("journal", deadline=None, database=None)
-settings.load_profile("journal")
+
+def pytest_configure():
+    """A busy machine makes an example slow without being wrong."""
+    import hypothesis
+
+    hypothesis.settings.register_profile("journal", deadline=None, database=None)
+    hypothesis.settings.load_profile("journal")
 
 
 @pytest.fixture
