@@ -27,8 +27,24 @@ public:
     return std::move(differences);
   }
 
+  /// Two messages with what is appended to them.
+  std::vector<Difference> run(Decoded const& left, Decoded const& right) {
+    compare({}, "outcome", outcomeOf(left), outcomeOf(right));
+    auto outcomes = std::move(differences);
+    differences.clear();
+    auto all = run(left.message, right.message);
+    all.insert(all.end(), outcomes.begin(), outcomes.end());
+    return all;
+  }
+
 private:
   using Text = std::optional<std::string>;
+
+  static Text outcomeOf(Decoded const& decoded) {
+    if (!decoded.outcome)
+      return std::nullopt;
+    return JournalServiceHelper::respBool(*decoded.outcome);
+  }
 
   bool isIgnored(std::string_view name) const {
     return std::find(ignored.begin(), ignored.end(), name) != ignored.end();
@@ -203,7 +219,7 @@ std::string applyTo(std::deque<Item>& log, Item const& entry, EntryNotification 
 
 std::vector<Difference> diff(Decoded const& left, Decoded const& right,
                              std::vector<std::string> const& ignored) {
-  return Comparison(ignored).run(left.message, right.message);
+  return Comparison(ignored).run(left, right);
 }
 
 std::string apply(EntryNotification const& notification, ListResponse& list) {

@@ -53,6 +53,12 @@ Tag nextKnown(std::string_view text, std::size_t from) {
   return tag;
 }
 
+/// Whether the next tag of any kind closes this one, so that nothing else is in its value.
+bool isClosedNext(std::string_view text, Tag const& tag) {
+  Tag const next = nextTag(text, tag.end);
+  return next && next.close && next.name == tag.name;
+}
+
 } // namespace
 
 std::string redacted(std::string text) {
@@ -67,7 +73,7 @@ std::string redacted(std::string text) {
     Tag const tag = nextKnown(view, from);
     auto const end = tag ? tag.offset : text.size();
     bool const begins = tag && !tag.close;
-    bool const next = begins && isHarmless(tag.name);
+    bool const next = begins && isHarmless(tag.name) && isClosedNext(view, tag);
     auto const behind = tag.end;
     bool const more = static_cast<bool>(tag);
     if (!harmless)

@@ -35,7 +35,7 @@ public:
   }
   /// After the piece's own record was asked for.
   void leave(Piece const& piece) {
-    if (piece.form != Form::end || !piece.closed)
+    if (piece.form != Form::closeTag && (piece.form != Form::end || !piece.closed))
       return;
     if (piece.element == word::ITEM)
       call_ = nullptr;

@@ -267,7 +267,7 @@ void Stream::take(std::size_t at) {
     seen_.inMethod = !close;
   } else if (seen_.inMethod) {
     return;
-  } else if (name.front() == '?') {
+  } else if (name.substr(0, 1) == "?") {
     seen_.declared = true;
   } else if (isAt(text, at, word::SCHEMA_NAMED_BEGIN)) {
     seen_.schema = true;

@@ -215,6 +215,8 @@ void Unpacker::unpack(std::string& out, bool final) {
   case Capture::dump:
     return unpackDump(out, final);
   case Capture::base64:
+    if (final)
+      held_ += '='; // which writers may leave out
     return takeBase64(held_, out);
   case Capture::escaped:
     return unpackEscaped(out, final);

@@ -189,8 +189,8 @@ TABLE(Watch,
       {"journalmsg watch --match getF | wc -l", REQUEST "\n" LIST("") "\n", "1\n"},
       {"cat >g; touch f; (sleep 0.3; cat g >>f) & journalmsg watch --follow -n 1 f | cut -c 26-32",
        REQUEST "\n", "request\n"},
-      {"journalmsg watch --match '('", "", "", "journalmsg: --match takes a regular expression\n",
-       2})
+      {"journalmsg watch --match '('", "", "",
+       "journalmsg: --match takes an extended regular expression\n", 2})
 
 TABLE(WrongUse,
       {"journalmsg", "", "",
@@ -221,6 +221,8 @@ TABLE(Report,
        "journalmsg: page is not the page of journalmsg\n", 3},
       {"echo '" SLOT("") "' >page; journalmsg report --page page -o none/out", REQUEST, "",
        "journalmsg: cannot write none/out: No such file or directory\n", 3},
+      {"echo '" SLOT("") "' >page; cat >m; journalmsg report --page page -o m m || cat m", REQUEST,
+       REQUEST, "journalmsg: the report would replace its input m\n", 0},
       {"echo '" SLOT("") "' >page; journalmsg report --page page -o /dev/full", REQUEST, "",
        "journalmsg: cannot write /dev/full: No space left on device\n", 3})
 

@@ -52,6 +52,49 @@ TEST(Robustness, GzipIsUnpacked) {
   EXPECT_EQ(cut.code, 3);
 }
 
+TEST(Robustness, GzipMayEndWithTheBuffer) {
+  auto const result = run("journalmsg make success >m; truncate -s 262144 m; gzip -c m >m.gz;"
+                          "journalmsg identify m.gz | wc -l");
+  EXPECT_EQ(result.out, "1\n");
+  EXPECT_EQ(result.err, "");
+}
+
+TEST(Robustness, Base64NeedsNoPadding) {
+  EXPECT_EQ(run("printf '<Value>Success</Value>' | base64 -w0 | tr -d = | journalmsg decode").out,
+            "outcome  success\n");
+}
+
+TEST(Robustness, LongMessagesAreMatched) {
+  auto const result =
+      run("journalmsg make obsReqMissedCallsUpdate '{\"surname\":\"'$(head -c 100000 "
+          "/dev/zero | tr '\\0' a)'\"}' 0 7 | journalmsg watch --match "
+          "'Method.*Handle' | wc -l");
+  EXPECT_EQ(result.out, "1\n") << result.err;
+}
+
+TEST(Robustness, RedactionMasksWhatDamageMovesIntoOtherElements) {
+  auto const result =
+      run("printf '<Method><getMissedCallList></Method><Entry><UniqueId>1<Surnme>Berg 5550123"
+          "</Surnme></Entry><Handle>7 Berg 5550123' | journalmsg explain --redact");
+  EXPECT_EQ(result.out.find("Berg"), std::string::npos) << result.out;
+  EXPECT_EQ(result.out.find("5550123"), std::string::npos) << result.out;
+}
+
+TEST(Robustness, AnAppendedOutcomeIsADifference) {
+  auto const result = run("(cat $golden/missed-log.xml; printf '<Value>Failure</Value>') >failed;"
+                          "journalmsg diff $golden/missed-log.xml failed");
+  EXPECT_EQ(result.code, 1);
+  EXPECT_NE(result.out.find("Failure"), std::string::npos) << result.out;
+}
+
+TEST(Robustness, AStrayListInACallIsNoReasonToSkipTheNextCall) {
+  auto const result = run(
+      "printf '<Method><getMissedCallList></Method><Entry><UniqueId>1</UniqueId><LogList><Item>"
+      "<Number>5</Number><LogList><NumberType>MOBILE</NumberType></Item><Item><Number>6</Number>"
+      "</Item></LogList></Entry><Handle>7</Handle>' | journalmsg explain | grep '\"6\"'");
+  EXPECT_NE(result.out.find("\"6\"       \"6\""), std::string::npos) << result.out;
+}
+
 TEST(Robustness, DumpsAreUnpacked) {
   auto const command = [](std::string const& pack) {
     return run(pack + " $golden/missed-log.xml | journalmsg decode --format jsonl").out;

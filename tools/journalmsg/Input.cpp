@@ -64,7 +64,7 @@ public:
         failReading(path_, "is damaged gzip");
       ended_ = code == Z_STREAM_END;
       read(std::string_view(out_).substr(0, out_.size() - stream_.avail_out));
-    } while (stream_.avail_in > 0 || stream_.avail_out == 0);
+    } while (stream_.avail_in > 0 || (stream_.avail_out == 0 && !ended_));
   }
 
   void finish() const {
@@ -129,9 +129,16 @@ std::vector<std::string> filesOf(std::vector<std::string> const& paths) {
       continue;
     }
     auto const first = static_cast<std::ptrdiff_t>(files.size());
-    for (auto const& entry : fs::recursive_directory_iterator(path, error))
-      if (entry.is_regular_file())
-        files.push_back(entry.path().string());
+    constexpr auto skip = fs::directory_options::skip_permission_denied;
+    for (fs::recursive_directory_iterator entry(path, skip, error), end; !error && entry != end;
+         entry.increment(error)) {
+      std::error_code unknown;
+      bool const isFolder = entry->is_directory(unknown);
+      // A folder that cannot be searched is reported when it is read like a file.
+      if (isFolder ? access(entry->path().c_str(), R_OK | X_OK) != 0
+                   : entry->is_regular_file(unknown))
+        files.push_back(entry->path().string());
+    }
     if (error)
       failReading(path, error.message());
     std::sort(files.begin() + first, files.end());

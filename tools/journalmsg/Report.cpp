@@ -61,6 +61,7 @@ public:
     auto const place = page.find(slot);
     if (place == page.npos)
       throw Failure(inspect::safeText(pagePath) + " is not the page of journalmsg");
+    refuseInput();
     file.open(target, std::ios::binary | std::ios::trunc);
     if (!file)
       failWriting();
@@ -78,6 +79,13 @@ private:
   [[noreturn]] void failWriting() const {
     throw Failure(fmt::format("cannot write {}: {}", inspect::safeText(target),
                               std::generic_category().message(errno)));
+  }
+
+  /// Opening the report would empty it.
+  void refuseInput() const {
+    for (auto const& path : options.files)
+      if (std::error_code error; fs::equivalent(path, target, error))
+        throw Misuse("the report would replace its input " + inspect::safeText(path));
   }
 
   std::string names() const {

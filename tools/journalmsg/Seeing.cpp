@@ -2,9 +2,9 @@
 #include <fcntl.h>
 #include <fmt/chrono.h>
 #include <fmt/format.h>
+#include <regex.h>
 #include <unistd.h>
 
-#include <regex>
 #include <thread>
 
 #include "Commands.h"
@@ -118,6 +118,26 @@ std::string now() {
 
 struct Enough {};
 
+/// An extended regular expression. std::regex takes a level of the stack for each character.
+class Pattern {
+public:
+  explicit Pattern(std::string const& expression) {
+    if (regcomp(&compiled_, expression.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
+      throw Misuse("--match takes an extended regular expression");
+  }
+  ~Pattern() { regfree(&compiled_); }
+  Pattern(Pattern const&) = delete;
+  Pattern& operator=(Pattern const&) = delete;
+
+  /// Up to the first NUL.
+  bool matches(std::string const& text) const {
+    return regexec(&compiled_, text.c_str(), 0, nullptr, 0) == 0;
+  }
+
+private:
+  regex_t compiled_;
+};
+
 class Watcher {
 public:
   Watcher(Options const& given, Watching const& what)
@@ -158,7 +178,7 @@ private:
   void show(Item& item) {
     if (options.redact)
       item.found.text = redacted(std::move(item.found.text));
-    if (!watching.match.empty() && !std::regex_search(item.text(), pattern))
+    if (!watching.match.empty() && !pattern.matches(item.text()))
       return;
     auto const decoded = decode(item.text(), options.log);
     recognised = recognised || isRecognised(decoded);
@@ -193,7 +213,7 @@ private:
   Options const& options;
   Watching watching;
   Output output;
-  std::regex pattern;
+  Pattern pattern;
   Stream stream;
   std::shared_ptr<std::string const> place;
   std::size_t shownMessages = 0;
@@ -253,15 +273,13 @@ void addWatch(Program const& program) {
       [&options, watching] {
         if (options.files.size() > 1)
           throw Misuse("watch reads one file");
-        try {
-          return Watcher(options, *watching).run();
-        } catch (std::regex_error const&) {
-          throw Misuse("--match takes a regular expression");
-        }
+        return Watcher(options, *watching).run();
       });
   program.addFiles(command);
   program.addKind(command);
-  command->add_option("--match", watching->match, "only messages with a match of this expression")
+  command
+      ->add_option("--match", watching->match,
+                   "only messages with a match of this extended expression")
       ->type_name("REGEX");
   command->add_option("-n,--limit-messages", watching->limit, "end after so many messages")
       ->type_name("N");
