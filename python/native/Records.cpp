@@ -247,9 +247,9 @@ void makeType(Class& own, py::handle base, std::string const& name) {
     return all;
   }();
   names.push_back("journalmessages." + name);
-  PyType_Spec spec{names.back().c_str(), sizeof(Object), 0,
-                   Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC, slots};
-  auto* const type = PyType_FromSpecWithBases(&spec, py::make_tuple(base).ptr());
+  PyType_Spec described{names.back().c_str(), sizeof(Object), 0,
+                        Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC, slots};
+  auto* const type = PyType_FromSpecWithBases(&described, py::make_tuple(base).ptr());
   if (type == nullptr)
     throw py::error_already_set();
   own.type = reinterpret_cast<PyTypeObject*>(type);

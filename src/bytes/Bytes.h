@@ -65,7 +65,7 @@ struct Pair {
 #ifdef __SSE2__
 
 /// 16 bytes that are compared at once.
-struct Half {
+struct Bytes16 {
   static constexpr std::size_t size = 16;
 
   JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
@@ -109,7 +109,7 @@ inline constexpr auto frontMasks = [] {
 }();
 
 /// 16 bytes that are compared at once.
-struct Half {
+struct Bytes16 {
   static constexpr std::size_t size = frontMasks.size() / 2;
 
   JOURNAL_INLINE static inline bool same(char const* left, char const* right) {
@@ -171,17 +171,17 @@ JOURNAL_INLINE inline bool sameBytes(char const* left, char const* right, std::s
 }
 
 /// The most bytes that sameTag compares.
-inline constexpr std::size_t largestTag = 2 * detail::Half::size;
+inline constexpr std::size_t largestTag = 2 * detail::Bytes16::size;
 
 /// Compares `size` bytes, from smallestCompared to largestTag, with few branches where the compiler
 /// does not know the size.
 JOURNAL_INLINE inline bool sameTag(char const* left, char const* right, std::size_t size) {
-  using detail::Half;
+  using detail::Bytes16;
   if (!builtForSpeed)
     return std::char_traits<char>::compare(left, right, size) == 0;
-  if (size >= Half::size) {
-    auto const last = size - Half::size;
-    return Half::same(left, right) && Half::same(left + last, right + last);
+  if (size >= Bytes16::size) {
+    auto const last = size - Bytes16::size;
+    return Bytes16::same(left, right) && Bytes16::same(left + last, right + last);
   }
   if (size >= sizeof(std::uint64_t))
     return detail::sameEnds<std::uint64_t>(left, right, size);
@@ -189,14 +189,14 @@ JOURNAL_INLINE inline bool sameTag(char const* left, char const* right, std::siz
 }
 
 /// How many bytes sameFront loads.
-inline constexpr std::size_t frontSize = detail::Half::size;
+inline constexpr std::size_t frontSize = detail::Bytes16::size;
 
 /// Compares the first `size` bytes, at most frontSize. frontSize bytes must be readable at both
 /// places.
 JOURNAL_INLINE inline bool sameFront(char const* left, char const* right, std::size_t size) {
   if (!builtForSpeed)
     return std::char_traits<char>::compare(left, right, size) == 0;
-  return detail::Half::sameFront(left, right, size);
+  return detail::Bytes16::sameFront(left, right, size);
 }
 
 /// Copies bytes of a size that is only known at run time and usually small.

@@ -15,7 +15,7 @@ namespace journal {
 /// A perfect hash of the elements of one record, by their names' first character and size.
 class FieldIndex {
 public:
-  /// No constant expression when no factor tells the elements apart: more slots will.
+  /// Does not compile if no factor gives each element a slot of its own; more slots then help.
   template <class Fields>
   constexpr explicit FieldIndex(Fields const& fields) {
     while (!fill(fields))

@@ -21,6 +21,7 @@ struct Layout {
 #define WORD(NAME, text) char NAME[sizeof text];
 #include "vocabulary/Words.def"
 };
+static_assert(sizeof(Layout) == sizeof texts - 1);
 } // namespace detail
 
 #define WORD(NAME, text)                                                                           \

@@ -148,6 +148,7 @@ TEST(Robustness, ControlCharactersNeverReachPeople) {
   EXPECT_NE(shown.find("\\x1b[31m"), std::string::npos) << shown;
 }
 
+// A bare root has no pseudo-terminals; there, the test above is all.
 TEST(Robustness, ControlCharactersNeverReachATerminal) {
   if (run("script -qec true /dev/null").code != 0)
     GTEST_SKIP() << "no pseudo-terminals here";
