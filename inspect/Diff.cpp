@@ -222,6 +222,17 @@ std::vector<Difference> diff(Decoded const& left, Decoded const& right,
   return Comparison(ignored).run(left, right);
 }
 
+std::vector<std::string> comparedFields() {
+  std::vector<std::string> names{
+      "kind",   "log",   "outcome",          "text",   "method", "value", "entryIds",      "handle",
+      "action", "order", "uniqueIdToDelete", "schema", "reason", "ok",    "callLogEnabled"};
+  for (Log const log : allLogs)
+    for (Fields const fields : {entryFieldsOf(log), callFieldsOf(log)})
+      for (Field const& field : fields)
+        names.emplace_back(field.name);
+  return names;
+}
+
 std::string apply(EntryNotification const& notification, ListResponse& list) {
   if (logOf(notification.entry) != logOf(list.entries))
     return "belongs to the log of " + std::string(nameOf(logOf(notification.entry))) + " calls";

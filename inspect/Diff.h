@@ -18,9 +18,12 @@ struct Difference {
   std::optional<std::string> right;
 };
 
-/// @param ignored names of fields that are not compared
+/// @param ignored names of fields that are not compared, as in comparedFields()
 std::vector<Difference> diff(Decoded const& left, Decoded const& right,
                              std::vector<std::string> const& ignored = {});
+
+/// The names that `ignored` may have.
+std::vector<std::string> comparedFields();
 
 /// Applies a notification to a list: an added entry goes to the front, a changed one stays where it
 /// is, and the list gets the notification's handle. One that does not fit is applied as far as

@@ -252,7 +252,7 @@ private:
       return nullptr;
     }
     Part& part = open.back();
-    if (part.rows->empty())
+    if (part.rows->empty() && part.name != word::METHOD)
       return findElement(piece.element, result.identity.log);
     Row const* const row = findRow(*part.rows, piece.element);
     if (row == nullptr) {

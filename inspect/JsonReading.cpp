@@ -114,12 +114,13 @@ private:
   }
 
   void rejectUnknown(Value const& object, std::string const& where) {
-    for (auto at = object.MemberBegin(); at != object.MemberEnd(); ++at) {
+    for (auto at = object.MemberBegin(); at != object.MemberEnd() && error.empty(); ++at) {
       auto const name = textOf(at->name);
-      if (std::find(known.begin(), known.end(), name) == known.end()) {
-        path = where;
-        fail(name, "is unknown here");
-      }
+      bool const isKnown = std::find(known.begin(), known.end(), name) != known.end();
+      if (isKnown && object.FindMember(at->name) == at)
+        continue;
+      path = where;
+      fail(name, isKnown ? "is there twice" : "is unknown here");
     }
   }
 
@@ -146,6 +147,12 @@ private:
     if (value != nullptr)
       text(*value, name, target);
     return value != nullptr;
+  }
+
+  template <class Target>
+  void require(Value const& object, std::string_view name, Target& target) {
+    if (!read(object, name, target))
+      fail(name, "is missing");
   }
 
   void text(Value const& value, std::string_view name, std::string& target) {
@@ -292,13 +299,13 @@ private:
     switch (kind) {
     case Kind::unknown: {
       Unknown message;
-      read(object, json::text, message.text);
+      require(object, json::text, message.text);
       decoded.message = std::move(message);
       break;
     }
     case Kind::request: {
       Request message;
-      read(object, json::method, message.method);
+      require(object, json::method, message.method);
       ids(object, message.entryIds);
       decoded.message = std::move(message);
       break;
@@ -309,15 +316,15 @@ private:
       return notification(object, decoded);
     case Kind::counterNotification: {
       CounterNotification message;
-      read(object, json::method, message.method);
-      read(object, json::value, message.value);
+      require(object, json::method, message.method);
+      require(object, json::value, message.value);
       decoded.message = std::move(message);
       break;
     }
     case Kind::storeRequest: {
       StoreRequest message;
-      read(object, json::schema, message.schema);
-      read(object, json::reason, message.reason);
+      require(object, json::schema, message.schema);
+      require(object, json::reason, message.reason);
       decoded.message = std::move(message);
       break;
     }
@@ -325,13 +332,13 @@ private:
       Outcome message;
       read(object, json::method, message.method);
       ids(object, message.entryIds);
-      read(object, json::ok, message.ok);
+      require(object, json::ok, message.ok);
       decoded.message = std::move(message);
       break;
     }
     case Kind::setting: {
       Setting message;
-      read(object, json::callLogEnabled, message.enabled);
+      require(object, json::callLogEnabled, message.enabled);
       decoded.message = message;
       break;
     }

@@ -33,61 +33,59 @@ struct Builder {
 
 constexpr auto noLog = std::optional<Log>();
 
+template <bool ok>
+std::string outcome() {
+  return Api::createXMLField(std::string(word::VALUE), Api::respBool(ok));
+}
+
 // Requests first: a request and its answer share a method.
 Builder const rows[] = {
 #define REQUEST(name, METHOD, log)                                                                 \
-  {#name, word::METHOD##_XML, Kind::request, Api::METHOD, log, &Api::name},
-    REQUEST(reqGetMissedCallList, GETMISSEDCALLLIST, Log::missed) REQUEST(
-        reqSetMissedCallListAsViewed, SETMISSEDCALLLISTASVIEWED,
-        Log::missed) REQUEST(reqDeleteMissedCall, DELETEMISSEDCALL, Log::missed)
-        REQUEST(reqDeleteMissedCallList, DELETEMISSEDCALLLIST, Log::missed) REQUEST(
-            reqGetDialledCallList, GETDIALLEDCALLLIST,
-            Log::dialled) REQUEST(reqDeleteDialledCall, DELETEDIALLEDCALL, Log::dialled)
-            REQUEST(reqDeleteDialledCallList, DELETEDIALLEDCALLLIST, Log::dialled) REQUEST(
-                reqGetLastDialledNumber, GETLASTDIALLEDNUMBER,
-                Log::dialled) REQUEST(reqGetReceivedCallList, GETRECEIVEDCALLLIST, Log::received)
-                REQUEST(reqDeleteReceivedCall, DELETERECEIVEDCALL, Log::received) REQUEST(
-                    reqDeleteReceivedCallList, DELETERECEIVEDCALLLIST, Log::received)
-                    REQUEST(reqGetForwardedCallList, GETFORWARDEDCALLLIST, Log::forwarded)
-                        REQUEST(reqDeleteForwardedCall, DELETEFORWARDEDCALL, Log::forwarded)
-                            REQUEST(reqDeleteForwardedCallList, DELETEFORWARDEDCALLLIST,
-                                    Log::forwarded) REQUEST(reqSubscribe, SUBSCRIBE, noLog)
-                                REQUEST(reqUnsubscribe, UNSUBSCRIBE,
-                                        noLog) REQUEST(reqRefreshCallLog, REFRESHCALLLOG, noLog)
+  { #name, word::METHOD##_XML, Kind::request, Api::METHOD, log, &Api::name }
+    REQUEST(reqGetMissedCallList, GETMISSEDCALLLIST, Log::missed),
+    REQUEST(reqSetMissedCallListAsViewed, SETMISSEDCALLLISTASVIEWED, Log::missed),
+    REQUEST(reqDeleteMissedCall, DELETEMISSEDCALL, Log::missed),
+    REQUEST(reqDeleteMissedCallList, DELETEMISSEDCALLLIST, Log::missed),
+    REQUEST(reqGetDialledCallList, GETDIALLEDCALLLIST, Log::dialled),
+    REQUEST(reqDeleteDialledCall, DELETEDIALLEDCALL, Log::dialled),
+    REQUEST(reqDeleteDialledCallList, DELETEDIALLEDCALLLIST, Log::dialled),
+    REQUEST(reqGetLastDialledNumber, GETLASTDIALLEDNUMBER, Log::dialled),
+    REQUEST(reqGetReceivedCallList, GETRECEIVEDCALLLIST, Log::received),
+    REQUEST(reqDeleteReceivedCall, DELETERECEIVEDCALL, Log::received),
+    REQUEST(reqDeleteReceivedCallList, DELETERECEIVEDCALLLIST, Log::received),
+    REQUEST(reqGetForwardedCallList, GETFORWARDEDCALLLIST, Log::forwarded),
+    REQUEST(reqDeleteForwardedCall, DELETEFORWARDEDCALL, Log::forwarded),
+    REQUEST(reqDeleteForwardedCallList, DELETEFORWARDEDCALLLIST, Log::forwarded),
+    REQUEST(reqSubscribe, SUBSCRIBE, noLog),
+    REQUEST(reqUnsubscribe, UNSUBSCRIBE, noLog),
+    REQUEST(reqRefreshCallLog, REFRESHCALLLOG, noLog),
 #undef REQUEST
 #define NOTIFICATION(name, METHOD, log)                                                            \
-  {#name, word::METHOD##_XML, Kind::entryNotification, Api::METHOD, log, std::monostate()},
-                                    NOTIFICATION(obsReqMissedCallsUpdate, MISSEDCALLSUPDATE,
-                                                 Log::missed)
-                                        NOTIFICATION(obsReqDialledCallsUpdate, DIALLEDCALLSUPDATE,
-                                                     Log::dialled)
-                                            NOTIFICATION(obsReqReceivedCallsUpdate,
-                                                         RECEIVEDCALLSUPDATE, Log::received)
-                                                NOTIFICATION(obsReqForwardedCallsUpdate,
-                                                             FORWARDEDCALLSUPDATE, Log::forwarded)
+  { #name, word::METHOD##_XML, Kind::entryNotification, Api::METHOD, log, std::monostate() }
+    NOTIFICATION(obsReqMissedCallsUpdate, MISSEDCALLSUPDATE, Log::missed),
+    NOTIFICATION(obsReqDialledCallsUpdate, DIALLEDCALLSUPDATE, Log::dialled),
+    NOTIFICATION(obsReqReceivedCallsUpdate, RECEIVEDCALLSUPDATE, Log::received),
+    NOTIFICATION(obsReqForwardedCallsUpdate, FORWARDEDCALLSUPDATE, Log::forwarded),
 #undef NOTIFICATION
-                                                    {"obsReqMissedCallsCountUpdate",
-                                                     word::MISSEDCALLSCOUNTUPDATE_XML,
-                                                     Kind::counterNotification,
-                                                     Api::MISSEDCALLSCOUNTUPDATE, Log::missed,
-                                                     &Api::obsReqMissedCallsCountUpdate},
+    {"obsReqMissedCallsCountUpdate", word::MISSEDCALLSCOUNTUPDATE_XML, Kind::counterNotification,
+     Api::MISSEDCALLSCOUNTUPDATE, Log::missed, &Api::obsReqMissedCallsCountUpdate},
     // Sent, but getMethodFromXMLMsg does not recognise it: only its tag identifies it.
     {"obsReqMissedGroupCallsUpdate", word::MISSEDGROUPCALLSUPDATE_XML, Kind::counterNotification,
      Api::UNKNOWN_METHOD, Log::missed, &Api::obsReqMissedGroupCallsUpdate},
 #define STORE(name, log)                                                                           \
-  {#name, {}, Kind::storeRequest, Api::UNKNOWN_METHOD, log, Plain(&Api::name)},
-    STORE(readEnabledState, noLog) STORE(readMissedCallList, Log::missed)
-        STORE(readDialledCallList, Log::dialled) STORE(readReceivedCallList, Log::received) STORE(
-            readForwardedCallList, Log::forwarded) STORE(deleteMissedCallList, Log::missed)
-            STORE(deleteDialledCallList, Log::dialled) STORE(deleteReceivedCallList, Log::received)
-                STORE(deleteForwardedCallList, Log::forwarded)
+  { #name, {}, Kind::storeRequest, Api::UNKNOWN_METHOD, log, Plain(&Api::name) }
+    STORE(readEnabledState, noLog),
+    STORE(readMissedCallList, Log::missed),
+    STORE(readDialledCallList, Log::dialled),
+    STORE(readReceivedCallList, Log::received),
+    STORE(readForwardedCallList, Log::forwarded),
+    STORE(deleteMissedCallList, Log::missed),
+    STORE(deleteDialledCallList, Log::dialled),
+    STORE(deleteReceivedCallList, Log::received),
+    STORE(deleteForwardedCallList, Log::forwarded),
 #undef STORE
-                    {"success", {}, Kind::outcome, Api::UNKNOWN_METHOD, noLog, Plain([] {
-                       return Api::createXMLField(std::string(word::VALUE), Api::respBool(true));
-                     })},
-    {"failure", {}, Kind::outcome, Api::UNKNOWN_METHOD, noLog, Plain([] {
-       return Api::createXMLField(std::string(word::VALUE), Api::respBool(false));
-     })},
+    {"success", {}, Kind::outcome, Api::UNKNOWN_METHOD, noLog, Plain(&outcome<true>)},
+    {"failure", {}, Kind::outcome, Api::UNKNOWN_METHOD, noLog, Plain(&outcome<false>)},
 };
 
 constexpr Takes taken[] = {Takes::nothing, Takes::id, Takes::ids, Takes::count, Takes::entry};

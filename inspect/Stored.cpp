@@ -270,11 +270,15 @@ private:
     if (group.empty())
       return;
     if (pieces[group[0]].form != Form::closeTag)
-      settleGroup({element, content}, group, stored);
-    else if (present) {
+      return settleGroup({element, content}, group, stored);
+    if (present) {
       pieces[group[0]].stored = stored;
       pieces[group[0]].reasons.push_back(RuleId::firstClose);
+      return;
     }
+    for (auto const at : group)
+      if (pieces[at].form == Form::leaf)
+        pieces[at].reasons.push_back(RuleId::hiddenByClose);
   }
 
   void settleIds(std::vector<std::string> const& ids) {
@@ -296,8 +300,15 @@ private:
   void settle(BareEntry const&) {}
   void settle(LastDialled const&) {}
   void settle(Request const& message) { settleIds(message.entryIds); }
+  /// Readers of a list search the close tag behind the begin tag, so a stray one in front is
+  /// nothing.
   void settle(ListResponse const& message) {
-    settle(word::HANDLE, Content::number, std::to_string(message.handle), message.handle != 0);
+    auto group = named(word::HANDLE);
+    group.erase(std::remove_if(group.begin(), group.end(),
+                               [&](auto at) { return pieces[at].form == Form::closeTag; }),
+                group.end());
+    if (!group.empty())
+      settleGroup({word::HANDLE, Content::number}, group, std::to_string(message.handle));
   }
   void settle(EntryNotification const& message) {
     settle(word::UNIQUEIDTODELETE, Content::text, message.uniqueIdToDelete,

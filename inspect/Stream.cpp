@@ -55,7 +55,7 @@ Stream::Stream(Options options) : options_(options) {}
 
 void Stream::push(std::string_view bytes) {
   if (head_ > text_.size() / 2) {
-    for (auto* const position : {&from_, &start_, &lastEnd_})
+    for (auto* const position : {&from_, &start_, &lastEnd_, &walkedTo_})
       *position -= std::min(*position, head_);
     text_.erase(0, head_);
     head_ = 0;
@@ -114,9 +114,10 @@ bool Stream::isWhole(std::size_t at) const {
 bool Stream::findStart() {
   if (!*scan_) {
     auto const first = text_.find_first_not_of(separators, from_);
-    if (first != npos)
-      begin(first);
-    return first != npos;
+    if (first == npos || (!finished_ && isCutMark(first)))
+      return false;
+    begin(first);
+    return true;
   }
   for (from_ = findChar(text_, '<', from_); from_ != npos;
        from_ = findChar(text_, '<', from_ + 1)) {
@@ -130,6 +131,12 @@ bool Stream::findStart() {
   from_ = std::min(from_, text_.size());
   discard(from_);
   return false;
+}
+
+/// Whether the text ends inside a byte-order mark.
+bool Stream::isCutMark(std::size_t at) const {
+  auto const rest = std::string_view(text_).substr(at);
+  return rest.size() < byteOrderMark.size() && byteOrderMark.substr(0, rest.size()) == rest;
 }
 
 void Stream::begin(std::size_t at) {
@@ -161,7 +168,10 @@ Stream::Step Stream::step() {
     return Step::wait;
   if ((seen_.any || seen_.body) && startsNew(at, separated)) {
     auto const line = *scan_ ? between.find('\n') : npos; // what is behind it is not the message's
-    auto const last = text_.find_last_not_of(separators, line == npos ? at - 1 : from_ + line);
+    auto last = text_.find_last_not_of(separators, line == npos ? at - 1 : from_ + line);
+    if (last >= start_ + byteOrderMark.size() && // the next one's, in files that were joined
+        isAt(text_, last + 1 - byteOrderMark.size(), byteOrderMark))
+      last = text_.find_last_not_of(separators, last - byteOrderMark.size());
     return foundUpTo(std::max(last + 1, start_));
   }
   if (*scan_ && seen_.any && isForeign(at))
@@ -173,10 +183,13 @@ Stream::Step Stream::step() {
   return Step::goOn;
 }
 
-/// Goes over an entry at once when nothing in it can start or end a message.
+/// Goes over an entry at once when nothing in it can start or end a message. Each byte is searched
+/// once: where an entry has to be walked through, that is kept.
 void Stream::skipEntry() {
-  auto const close = element<word::ENTRY>.close();
-  auto const end = findText(text_, close, from_);
+  if (from_ < walkedTo_)
+    return;
+  auto const end = findText(text_, element<word::ENTRY>.close(), from_);
+  walkedTo_ = std::min(end, text_.size());
   if (end == npos)
     return;
   auto const entry = std::string_view(text_).substr(0, end);
@@ -216,7 +229,8 @@ bool Stream::endsBefore(std::string_view between, bool separated) const {
 /// Whether nothing more has to come in a message of its kind.
 bool Stream::isComplete() const {
   bool const inside = seen_.inMethod || seen_.inEntry || seen_.inCalls || seen_.inValue;
-  return !inside && (seen_.last || (seen_.declared && seen_.method && !seen_.body));
+  return !inside &&
+         (seen_.last || (seen_.declared && seen_.method && !seen_.awaitsMore && !seen_.body));
 }
 
 bool Stream::startsNew(std::size_t at, bool separated) const {
@@ -261,12 +275,14 @@ void Stream::take(std::size_t at) {
   lastEnd_ = from_;
   bool const close = text[at + 1] == '/';
   auto const name = text.substr(at + (close ? 2 : 1), bracket - at - (close ? 2 : 1));
-  seen_.inValue = false;
+  // A tag that readers do not know is part of the value around it.
+  seen_.inValue = seen_.inValue && !isKnown(text, at);
   if (name == word::METHOD) {
     seen_.method = true;
     seen_.inMethod = !close;
   } else if (seen_.inMethod) {
-    return;
+    auto const* const method = findMethod(name);
+    seen_.awaitsMore = method != nullptr && method->takes != Takes::nothing;
   } else if (name.substr(0, 1) == "?") {
     seen_.declared = true;
   } else if (isAt(text, at, word::SCHEMA_NAMED_BEGIN)) {
@@ -288,6 +304,7 @@ void Stream::take(std::size_t at) {
                                  name == word::CALL_LOG_ENABLED || name == word::SCHEMA));
   } else {
     seen_.inValue = true;
+    seen_.awaitsMore = false;
     seen_.uniqueId = seen_.uniqueId || name == word::UNIQUEID;
     seen_.body = seen_.body || (name != word::ENTRYID && name != word::UNIQUEID);
   }

@@ -62,6 +62,7 @@ private:
     bool any = false;
     bool declared = false;
     bool method = false;
+    bool awaitsMore = false; ///< elements behind a method that takes arguments
     bool schema = false;
     bool uniqueId = false;
     bool body = false;  ///< any other element but ids
@@ -83,6 +84,7 @@ private:
   bool isForeign(std::size_t at) const;
   bool isComplete() const;
   bool isWhole(std::size_t at) const;
+  bool isCutMark(std::size_t at) const;
   void take(std::size_t at);
   void skipEntry();
   Step foundUpTo(std::size_t end);
@@ -102,9 +104,10 @@ private:
 
   bool inMessage_ = false;
   Seen seen_;
-  std::size_t start_ = 0;   ///< of the message
-  std::size_t lastEnd_ = 0; ///< behind its last tag
-  std::size_t end_ = 0;     ///< of the message that was found
+  std::size_t start_ = 0;    ///< of the message
+  std::size_t lastEnd_ = 0;  ///< behind its last tag
+  std::size_t walkedTo_ = 0; ///< no entry can be skipped before it
+  std::size_t end_ = 0;      ///< of the message that was found
 };
 
 } // namespace inspect

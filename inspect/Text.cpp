@@ -12,7 +12,7 @@ struct Range {
 };
 
 // Characters that control a terminal instead of being shown.
-constexpr Range unsafe[] = {{0x00, 0x1F},     {'\\', '\\'},     {0x7F, 0x9F},
+constexpr Range unsafe[] = {{0x00, 0x1F},     {'\\', '\\'},     {0x7F, 0x9F},    {0x61C, 0x61C},
                             {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
 
 // The form of a UTF-8 sequence by its length: its first byte, and the smallest character of that

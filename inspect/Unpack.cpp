@@ -1,6 +1,8 @@
 #include "inspect/Unpack.h"
 
 #include <algorithm>
+#include <charconv>
+#include <utility>
 
 #include "ClientUtils.h"
 #include "inspect/Text.h"
@@ -48,53 +50,46 @@ bool beginsWithTag(std::string_view text) {
   return first != npos && text[first] == '<';
 }
 
-/// Takes whole pairs of digits from the front; blanks are skipped, anything else is a line end.
+/// Takes whole pairs of digits; an odd one is held. Blanks are skipped, anything else is a line
+/// end.
 void takeHex(std::string& held, std::string& out) {
-  std::size_t taken = 0;
-  int high = -1;
-  for (std::size_t at = 0; at < held.size(); ++at) {
-    int const digit = hexDigit(held[at]);
-    if (digit < 0 && isBlank(held[at]))
+  std::string high;
+  for (char const character : held) {
+    int const digit = hexDigit(character);
+    if (digit < 0 && isBlank(character))
       continue;
-    if (digit < 0) {
-      out += '\n';
-      high = -1;
-    } else if (high < 0) {
-      high = digit;
-      taken = at;
+    if (digit >= 0 && high.empty()) {
+      high = character;
       continue;
-    } else {
-      out += static_cast<char>(high << 4 | digit);
-      high = -1;
     }
-    taken = at + 1;
+    out += digit < 0 ? '\n' : static_cast<char>(hexDigit(high.front()) << 4 | digit);
+    high.clear();
   }
-  held.erase(0, high < 0 ? held.size() : taken);
+  held = high;
 }
 
-void takeBase64(std::string& held, std::string& out) {
-  std::size_t taken = 0;
+/// Appends the bytes of up to four digits.
+void appendGroup(std::string_view digits, std::string& out) {
   std::uint32_t bits = 0;
-  int count = 0;
-  for (std::size_t at = 0; at < held.size(); ++at) {
-    int const digit = base64Digit(held[at]);
-    if (digit >= 0) {
-      if (count == 0)
-        taken = at;
-      bits = bits << 6 | static_cast<std::uint32_t>(digit);
-      if (++count < 4)
-        continue;
-      for (int const shift : {16, 8, 0})
-        out += static_cast<char>(bits >> shift & 0xFF);
-      count = 0;
-    } else if (held[at] == '=') {
-      for (int byte = 1; byte < count; ++byte)
-        out += static_cast<char>(bits << (6 * (4 - count)) >> (24 - 8 * byte) & 0xFF);
-      count = 0;
+  for (std::size_t at = 0; at < 4; ++at)
+    bits =
+        bits << 6 | (at < digits.size() ? static_cast<std::uint32_t>(base64Digit(digits[at])) : 0u);
+  for (std::size_t byte = 1; byte < digits.size(); ++byte)
+    out += static_cast<char>(bits >> (24 - 8 * byte) & 0xFF);
+}
+
+/// Takes whole groups of four digits and what ends at a '='; the rest is held.
+void takeBase64(std::string& held, std::string& out) {
+  std::string group;
+  for (char const character : held) {
+    if (base64Digit(character) >= 0)
+      group += character;
+    if (group.size() == 4 || character == '=') {
+      appendGroup(group, out);
+      group.clear();
     }
-    bits = count == 0 ? 0 : bits;
   }
-  held.erase(0, count == 0 ? held.size() : taken);
+  held = group;
 }
 
 std::size_t digitsAtFront(std::string_view line) {
@@ -143,10 +138,11 @@ bool isPacked(std::string_view front, Take take, IsPacked isDigit) {
   return digits.size() < leastDigits && bytes.size() >= leastDigits / 2 && beginsWithTag(bytes);
 }
 
-constexpr std::string_view plainStarts[] = {"<?xml", "<Method>", "<Schema", "<Entry>",
-                                            "<CallLogEnabled>"};
-constexpr std::string_view escapedStarts[] = {"&lt;?xml", "&lt;Method&gt;", "&lt;Schema",
-                                              "&lt;Entry&gt;", "&lt;CallLogEnabled&gt;"};
+constexpr std::string_view plainStarts[] = {
+    "<?xml", "<Method>", "<Schema", "<Entry>", "<CallLogEnabled>", "<Value>", "<UniqueId>"};
+constexpr std::string_view escapedStarts[] = {
+    "&lt;?xml",      "&lt;Method&gt;",  "&lt;Schema", "&lt;Entry&gt;", "&lt;CallLogEnabled&gt;",
+    "&lt;Value&gt;", "&lt;UniqueId&gt;"};
 
 template <class Starts>
 std::size_t firstOf(std::string_view text, Starts const& starts) {
@@ -170,28 +166,30 @@ void Unpacker::push(std::string_view bytes, std::string& out) {
   }
   held_.append(bytes);
   if (!capture_)
-    recognise(false);
+    recognise(out, false);
   unpack(out, false);
 }
 
 void Unpacker::finish(std::string& out) {
   if (!capture_)
-    recognise(true);
+    recognise(out, true);
   unpack(out, true);
 }
 
 /// By the first line that is not blank, which must be complete or long.
-void Unpacker::recognise(bool final) {
-  auto const front = std::string_view(held_).substr(0, mostOfFront);
-  auto const first = front.find_first_not_of(whitespace);
-  if (first == npos && !final)
+void Unpacker::recognise(std::string& out, bool final) {
+  auto const blank = std::min(held_.find_first_not_of(whitespace), held_.size());
+  out.append(held_, 0, blank);
+  held_.erase(0, blank);
+  if (held_.empty() && !final)
     return;
-  if (first == npos || beginsWithTag(front)) {
+  auto const front = std::string_view(held_).substr(0, mostOfFront);
+  if (front.empty() || beginsWithTag(front)) {
     capture_ = Capture::plain;
     return;
   }
-  auto const line = front.substr(first, front.find('\n', first) - first);
-  bool const whole = final || front.size() == mostOfFront || first + line.size() < front.size();
+  auto const line = front.substr(0, front.find('\n'));
+  bool const whole = final || front.size() == mostOfFront || line.size() < front.size();
   if (!whole)
     return;
   if (isDump(line))
@@ -230,12 +228,35 @@ void Unpacker::unpackDump(std::string& out, bool final) {
   std::size_t done = 0;
   while (done < held_.size()) {
     auto const end = held_.find('\n', done);
-    if (end == npos && !final)
+    if (end == npos && !final && held_.size() - done < mostOfFront) // no line of a dump is longer
       break;
-    takeDumpLine(std::string_view(held_).substr(done, end - done), out);
+    unpackDumpLine(std::string_view(held_).substr(done, end - done), out);
     done = end == npos ? held_.size() : end + 1;
   }
   held_.erase(0, done);
+}
+
+/// Dumps squeeze repetitions of a line: a '*', then the offset behind them.
+void Unpacker::unpackDumpLine(std::string_view line, std::string& out) {
+  if (line.substr(0, 1) == "*") {
+    squeezed_ = true;
+    return;
+  }
+  std::uint64_t offset = 0;
+  auto const digits = line.substr(0, digitsAtFront(line));
+  auto const [end, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), offset, 16);
+  if (error != std::errc())
+    return;
+  if (std::exchange(squeezed_, false) && !row_.empty())
+    for (rowOffset_ += row_.size(); rowOffset_ < offset && squeezable_ >= row_.size();
+         rowOffset_ += row_.size(), squeezable_ -= row_.size())
+      out += row_;
+  auto const before = out.size();
+  if (takeDumpLine(line, out)) {
+    row_.assign(out, before);
+    rowOffset_ = offset;
+  }
 }
 
 /// An entity may be cut at the end of what is there.

@@ -23,13 +23,18 @@ public:
   std::optional<Capture> capture() const { return capture_; }
 
 private:
-  void recognise(bool final);
+  void recognise(std::string& out, bool final);
   void unpack(std::string& out, bool final);
   void unpackDump(std::string& out, bool final);
+  void unpackDumpLine(std::string_view line, std::string& out);
   void unpackEscaped(std::string& out, bool final);
 
   std::optional<Capture> capture_;
-  std::string held_; ///< not yet unpacked
+  std::string held_;                                  ///< not yet unpacked
+  std::string row_;                                   ///< bytes of the last line of a dump
+  std::uint64_t rowOffset_ = 0;                       ///< its offset
+  bool squeezed_ = false;                             ///< a '*' stands for repetitions of it
+  std::uint64_t squeezable_ = std::uint64_t{1} << 24; ///< bytes; the offsets may be damaged
 };
 
 } // namespace inspect

@@ -43,13 +43,18 @@ CarriedElements const& elementsOf(Log log) {
   return elements[static_cast<std::size_t>(log)];
 }
 
+enum class Visits : std::uint8_t { some, all };
+
 /// Finds them in one pass. Entries and calls are counted. Most tags are passed over by their first
-/// letter: only a value with an entity, and the fields that are not read back, can differ.
+/// letter: only a value with an entity, and the fields that are not read back, can differ. Where an
+/// entity is not right behind a begin tag but behind markup in a text, all tags have to be visited.
 class Finder {
 public:
-  Finder(std::string_view message, Log log, bool list)
+  Finder(std::string_view message, Log log, bool list, Visits visits)
       : text(message), elements(elementsOf(log)), isList(list), entry(list ? none : 0),
         ampersand(findChar(message, '&', 0)) {
+    if (visits == Visits::all)
+      letters.fill(true);
     letters[letterOf(word::ENTRY)] = letters[letterOf(word::ITEM)] = true;
     for (Field const& field : callFieldsOf(log))
       if (field.travel == members::Travel::writtenOnly)
@@ -60,10 +65,12 @@ public:
     for (auto at = findChar(text, '<', 0); at != npos;) {
       auto const next = findChar(text, '<', at + 1);
       bool const holdsEntity = ampersand < next;
-      if (at + 1 < text.size() && text[at + 1] != '/' &&
-          (holdsEntity || letters[letterOf(text.substr(at + 1))]))
-        if (Tag const tag = tagAt(text, at))
+      if (at + 1 < text.size() && (holdsEntity || letters[letterOf(text.substr(at + 1))])) {
+        Tag const tag = tagAt(text, at);
+        if (tag && !tag.close)
           visit(tag);
+        metMarkup = metMarkup || (holdsEntity && findElement(tag.name) == nullptr);
+      }
       if (holdsEntity)
         ampersand = next == npos ? npos : findChar(text, '&', next);
       at = next;
@@ -72,6 +79,8 @@ public:
       found.clear();
     return std::move(found);
   }
+
+  bool hasToVisitAll() const { return metMarkup; }
 
 private:
   static std::size_t letterOf(std::string_view name) {
@@ -140,6 +149,7 @@ private:
   std::size_t entry;
   std::size_t call = none;
   std::size_t ampersand; ///< the next one
+  bool metMarkup = false;
   std::array<bool, 256> letters{};
   std::vector<Written> found;
 };
@@ -182,7 +192,10 @@ std::vector<Written> writtenIn(std::string_view text, Message const& message) {
   if (entries.empty())
     return {};
   bool const list = kindOf(message) == Kind::listResponse;
-  auto const found = Finder(text, entries[0].log, list).run(entries.size());
+  Finder finder(text, entries[0].log, list, Visits::some);
+  auto found = finder.run(entries.size());
+  if (finder.hasToVisitAll())
+    found = Finder(text, entries[0].log, list, Visits::all).run(entries.size());
   std::vector<Written> different;
   forEachWritten(found, message, [&](Written const& written, void const* record) {
     if (written.value != valueOf(*written.field, record))

@@ -86,6 +86,7 @@ Case const cases[] = {
     {RuleId::unknownElement, list(entry("<SurName>a</SurName>")),
      list(entry("<Surname>a</Surname>"))},
     {RuleId::misplaced, list(entry("<Viewed>True</Viewed>")), missed("True")},
+    {RuleId::misplaced, declaration + "<Method><subscribe>" + handle + "</Method>", request("")},
     {RuleId::order, list(entry("<EntryId>1</EntryId><UniqueId>2</UniqueId>")),
      list(entry("<UniqueId>2</UniqueId><EntryId>1</EntryId>"))},
     {RuleId::passedOver,
@@ -105,6 +106,10 @@ Case const cases[] = {
      declaration + "<Method><forwardedCallsUpdate></Method><LogList></LogList>0</ActionType>" +
          handle,
      update("0")},
+    {RuleId::hiddenByClose,
+     declaration + "<Method><missedCallsCountUpdate></Method></Value><Value>3</Value>",
+     declaration + "<Method><missedCallsCountUpdate></Method><Value>3</Value></Value>"},
+    {RuleId::hiddenByClose, update("0</ActionType></Handle><ActionType>0"), update("0")},
     {RuleId::holdsTag, list(entry("<Picture><UniqueId>7</UniqueId></Picture>")),
      list(entry("<Picture><b>7</b></Picture>"))},
     {RuleId::otherValue,

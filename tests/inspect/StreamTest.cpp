@@ -88,6 +88,28 @@ Row const rows[] = {
     {"pretty-printed, declared",
      declaration + "\n<Method><subscribe></Method>\n" + list,
      {declaration + "\n<Method><subscribe></Method>", list}},
+    {"pretty-printed, with ids",
+     declaration +
+         "\n<Method><deleteMissedCall></Method>\n<EntryId>1</EntryId>\n"
+         "<EntryId>2</EntryId>\n" +
+         request,
+     {declaration + "\n<Method><deleteMissedCall></Method>\n<EntryId>1</EntryId>\n"
+                    "<EntryId>2</EntryId>",
+      request}},
+    {"pretty-printed behind the declaration, with ids",
+     declaration +
+         "<Method><deleteMissedCall></Method>\n<EntryId>1</EntryId>\n<EntryId>2</EntryId>",
+     {declaration + "<Method><deleteMissedCall></Method>\n<EntryId>1</EntryId>\n"
+                    "<EntryId>2</EntryId>"}},
+    {"a counter, pretty-printed",
+     declaration + "<Method><missedCallsCountUpdate></Method>\n<Value>3</Value>\n" + request,
+     {declaration + "<Method><missedCallsCountUpdate></Method>\n<Value>3</Value>", request}},
+    {"markup and a line end in a value",
+     declaration + "<Method><deleteMissedCall></Method><EntryId>a</b>\n7</EntryId>\n" + request,
+     {declaration + "<Method><deleteMissedCall></Method><EntryId>a</b>\n7</EntryId>", request}},
+    {"byte-order marks in joined files",
+     "\xEF\xBB\xBF" + request + "\n\xEF\xBB\xBF" + list + "\xEF\xBB\xBF" + list,
+     {"\xEF\xBB\xBF" + request, "\xEF\xBB\xBF" + list, "\xEF\xBB\xBF" + list}},
     {"in a log",
      "12:00 RX " + request + " (66 bytes)\n12:01 TX [" + list + "]\nend\n",
      {request, list}},
@@ -194,6 +216,7 @@ TEST(Stream, UnpacksCaptures) {
       {Capture::base64, base64Of(text)},
       {Capture::escaped, escapedOf(text)},
       {Capture::escaped, "12:00 RX " + escapedOf(text)},
+      {Capture::hex, std::string(5000, '\n') + hexOf(text, 32, false)},
   };
   for (auto const& row : captures)
     for (std::size_t const chunk : {std::size_t{1}, std::size_t{13}, std::size_t{1} << 20}) {
@@ -203,6 +226,31 @@ TEST(Stream, UnpacksCaptures) {
       stream.push(row.bytes);
       EXPECT_EQ(stream.capture(), row.capture);
     }
+}
+
+TEST(Stream, RepeatsTheSqueezedLinesOfADump) {
+  auto const dump = [](std::string const& squeezed) {
+    return "00000000  3c 41 3e 20 20 20 20 20  20 20 20 20 20 20 20 20  |<A>             |\n"
+           "00000010  20 20 20 20 20 20 20 20  20 20 20 20 20 20 20 20  |                |\n" +
+           squeezed;
+  };
+  std::string const message = "<A>" + std::string(61, ' ');
+  EXPECT_EQ(textsOf(foundIn(dump("*\n00000040  3c 42 3e                 |<B>|\n00000043\n"),
+                            {std::optional<bool>(false)})),
+            Texts{message + "<B>"});
+  // An offset that damage made large is not followed for ever.
+  EXPECT_LT(foundIn(dump("*\nffffffffffffffff  3c 42 3e                 |<B>|\n"),
+                    {std::optional<bool>(false)})[0]
+                .text.size(),
+            std::size_t{1} << 25);
+}
+
+TEST(Stream, HoldsNothingOfBlanksAndDumpsWithoutLines) {
+  Unpacker unpacker;
+  std::string out;
+  unpacker.push(hexOf(request, 100000, false) + "0", out);
+  unpacker.push(std::string(100000, ' '), out);
+  EXPECT_EQ(out, request);
 }
 
 // It begins like a message, but is not one whole tag: it must be passed over, or the scan never

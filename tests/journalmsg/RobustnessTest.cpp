@@ -59,6 +59,16 @@ TEST(Robustness, GzipMayEndWithTheBuffer) {
   EXPECT_EQ(result.err, "");
 }
 
+TEST(Robustness, GzipIsRecognisedInPiecesAndMayBePadded) {
+  auto const result =
+      run("gzip -c $samples/missed.xml >log.gz; truncate -s +1000 log.gz;"
+          "(head -c 1 log.gz; sleep 0.1; tail -c +2 log.gz) | journalmsg identify --format jsonl");
+  EXPECT_NE(result.out.find("\"listResponse\""), std::string::npos) << result.out;
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(run("printf '\\x1f' | journalmsg identify").code, 4);
+}
+
 TEST(Robustness, Base64NeedsNoPadding) {
   EXPECT_EQ(run("printf '<Value>Success</Value>' | base64 -w0 | tr -d = | journalmsg decode").out,
             "outcome  success\n");

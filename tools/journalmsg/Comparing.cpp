@@ -1,10 +1,12 @@
 // Commands that take several messages together: diff, replay, stats.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <map>
 
 #include "Commands.h"
 #include "Input.h"
+#include "Suggest.h"
 #include "inspect/Diff.h"
 #include "inspect/Explain.h"
 #include "inspect/Json.h"
@@ -45,7 +47,18 @@ struct Comparing {
   std::vector<std::string> ignored;
 };
 
+void rejectUnknownFields(std::vector<std::string> const& ignored) {
+  auto const fields = comparedFields();
+  for (auto const& name : ignored)
+    if (std::find(fields.begin(), fields.end(), name) == fields.end()) {
+      auto const near = nearest(name, fields);
+      throw Misuse("there is no field " + safeText(name) +
+                   (near.empty() ? "" : "; did you mean " + near + "?"));
+    }
+}
+
 int diffBoth(Options const& options, Comparing const& comparing) {
+  rejectUnknownFields(comparing.ignored);
   Output output(options);
   auto const left = messagesIn(comparing.files[0], options);
   auto const right = messagesIn(comparing.files[1], options);

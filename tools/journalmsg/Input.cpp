@@ -55,6 +55,12 @@ public:
     stream_.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
     stream_.avail_in = static_cast<uInt>(bytes.size());
     do {
+      while (ended_ && stream_.avail_in > 0 && *stream_.next_in == 0) { // padding behind the end
+        ++stream_.next_in;
+        --stream_.avail_in;
+      }
+      if (ended_ && stream_.avail_in == 0)
+        return;
       if (ended_ && inflateReset(&stream_) != Z_OK)
         failReading(path_, "is damaged gzip");
       stream_.next_out = reinterpret_cast<Bytef*>(out_.data());
@@ -190,16 +196,20 @@ void readPieces(std::string const& path, std::function<void(std::string_view)> c
     failReading(path, std::generic_category().message(errno));
   std::unique_ptr<Inflater> inflater;
   std::string piece(pieceSize, '\0');
+  std::size_t front = 0; ///< bytes that are there, but too few to tell whether this is gzip
   bool first = true;
   while (true) {
-    auto const size = ::read(file.number, piece.data(), piece.size());
+    auto const size = ::read(file.number, piece.data() + front, piece.size() - front);
     if (size < 0 && errno == EINTR)
       continue;
     if (size < 0)
       failReading(path, std::generic_category().message(errno));
     if (size == 0)
       break;
-    auto const bytes = std::string_view(piece).substr(0, static_cast<std::size_t>(size));
+    auto const bytes = std::string_view(piece).substr(0, front + static_cast<std::size_t>(size));
+    front = first && bytes == "\x1f" ? bytes.size() : 0;
+    if (front != 0)
+      continue;
     if (first && bytes.substr(0, 2) == "\x1f\x8b")
       inflater = std::make_unique<Inflater>(path);
     first = false;
@@ -208,6 +218,8 @@ void readPieces(std::string const& path, std::function<void(std::string_view)> c
     else
       read(bytes);
   }
+  if (front != 0)
+    read(std::string_view(piece).substr(0, front));
   if (inflater)
     inflater->finish();
 }

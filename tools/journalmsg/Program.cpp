@@ -58,6 +58,11 @@ void Program::addFiles(CLI::App* command) const {
       ->add_option("--limit", options.limit,
                    "most bytes of one message; a number, or one with K, M or G")
       ->transform(CLI::AsSizeValue(false))
+      ->transform(CLI::Validator(
+          [](std::string& text) {
+            return text.substr(0, 1) == "-" ? std::string("must not be negative") : std::string();
+          },
+          {}))
       ->type_name("SIZE")
       ->default_str("64M");
   command->add_flag("--redact", options.redact, "mask numbers and names; lengths are kept");

@@ -63,7 +63,7 @@ std::string suggestionFor(CLI::App const& app, int argc, char** argv) {
   for (int at = 1; at < argc; ++at) {
     std::string const argument = argv[at];
     auto const name = argument.substr(0, argument.find('='));
-    bool const option = name.size() > 1 && name[0] == '-';
+    bool const option = name.size() > 1 && name[0] == '-' && (name[1] < '0' || name[1] > '9');
     auto const known = option ? optionsOf(*command) : commands;
     if (!option && command == &app && contains(commands, name))
       command = app.get_subcommand(name);
