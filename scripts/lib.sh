@@ -23,8 +23,8 @@ declare -A journal_packages=(
   [packages]="$native $mips build-essential debhelper doxygen doxygen-awesome-css git lintian
     pkg-config python3"
   [packages-in-roots]='debootstrap git python3'
-  [package]="$native build-essential debhelper doxygen doxygen-awesome-css git python3"
-  [package-python]='dh-python pybind11-dev python3-dev'
+  [package]='cmake g++ ninja-build build-essential debhelper doxygen doxygen-awesome-css git python3'
+  [package-tools]="$native emscripten esbuild nodejs dh-python pybind11-dev python3-dev"
   [package-mips]=$mips
   [demo]='cmake g++ ninja-build libcli11-dev libfmt-dev rapidjson-dev zlib1g-dev'
   [documents]="$native $mips binutils python3"

@@ -21,3 +21,9 @@ dpkg --remove $names
 [ -z "$(dpkg -L libjournalservicehelper1 2>/dev/null)" ]
 dpkg --purge $names
 diff <(echo "$before") <(everything)
+
+apt-get install -y /packages/journalservicehelper-tools_*.deb
+journalmsg check /project/examples/data/missed.xml
+journalmsg report /project/examples/data/missed.xml -o report.html
+[ "$(wc -c <report.html)" -gt "$(wc -c </usr/share/journalmsg/journal.html)" ]
+[ -f /usr/share/man/man1/journalmsg.1.gz ]
