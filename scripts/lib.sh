@@ -39,6 +39,7 @@ declare -A journal_packages=(
   [s390x]="$emulated g++-s390x-linux-gnu"
   [bench]='cmake g++ ninja-build python3 libbenchmark-dev librapidxml-dev libpugixml-dev
     libexpat1-dev libtinyxml2-dev libxml2-dev libprotobuf-dev protobuf-compiler'
+  [captures]="$native jq libxml2-utils python3"
   [charts]='gnuplot-nox'
   [coverage]="$native gcovr python3"
   [bare-root]='debootstrap git'
