@@ -168,6 +168,21 @@ TEST(Robustness, ControlCharactersNeverReachATerminal) {
   EXPECT_NE(shown.find("\\x1b[31m"), std::string::npos) << shown;
 }
 
+// The first piece comes at once, the second one after the bar may be drawn.
+TEST(Robustness, ABarIsDrawnOnATerminalAfterTwoSeconds) {
+  std::string const slowly = "(cat $samples/missed.xml; sleep 2.2; cat $samples/missed.xml) |"
+                             "journalmsg identify >/dev/null";
+  EXPECT_EQ(run(slowly).err, "");
+  if (run("script -qec true /dev/null").code != 0)
+    GTEST_SKIP() << "no pseudo-terminals here";
+  auto const shown = run("export samples journalmsg=\"$(declare -f journalmsg)\";"
+                         "script -qec 'eval \"$journalmsg\"; " +
+                         slowly + "' /dev/null")
+                         .out;
+  EXPECT_NE(shown.find("[....................] 0 MB"), std::string::npos) << shown;
+  EXPECT_EQ(shown.substr(shown.size() - 4), "\r\x1b[K") << "the bar is removed";
+}
+
 TEST(Robustness, ColoursAreAskedFor) {
   EXPECT_EQ(run("journalmsg decode", "<Value>Success</Value>").out.find('\x1b'), std::string::npos);
   EXPECT_NE(run("journalmsg decode --color always", "<Value>Success</Value>").out.find('\x1b'),
