@@ -22,7 +22,8 @@ dpkg --remove $names
 dpkg --purge $names
 diff <(echo "$before") <(everything)
 
-apt-get install -y /packages/journalservicehelper-tools_*.deb
+apt-get install -y /packages/lib{journalservicehelper1,clientutils1}_*.deb \
+  /packages/journalservicehelper-tools_*.deb
 journalmsg check /project/examples/data/missed.xml
 journalmsg report /project/examples/data/missed.xml -o report.html
 [ "$(wc -c <report.html)" -gt "$(wc -c </usr/share/journalmsg/journal.html)" ]
