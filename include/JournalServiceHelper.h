@@ -245,7 +245,8 @@ public:
   // ===============================================================================================
   // The service answers
   //
-  // A request for a log is answered with a list response, any other request with an outcome:
+  // A request for a log is answered with a list response, one for the last dialled number with the
+  // body of a dialled entry, any other, and any that is refused, with an outcome:
   // "<Value>Success</Value>" or "<Value>Failure</Value>".
   //
   //     std::string outcome(bool success) {
@@ -529,7 +530,9 @@ public:
   ///
   /// Both conditions are needed. Without the first, a stray close tag can give true for ever;
   /// without the second, the loop never ends at an element that cannot be cut out. Such an element,
-  /// empty or behind a stray close tag, blocks those behind it.
+  /// empty or behind a stray close tag, blocks those behind it. Each step copies the rest of the
+  /// message, so the loop takes quadratic time in the number of ids: limit the size of requests
+  /// from strangers.
   /// @param[in,out] text the message; unchanged when the result is false. When the begin tag is
   ///        missing and the result is true: the whole former text, then once more what is behind
   ///        the close tag

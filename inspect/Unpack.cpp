@@ -120,9 +120,12 @@ bool takeDumpLine(std::string_view line, std::string& out) {
   return out.size() > before && held.empty();
 }
 
+/// A dump from the start can begin with any text, or else a message has to be in front.
 bool isDump(std::string_view line) {
   std::string bytes;
-  return takeDumpLine(line, bytes) && beginsWithTag(bytes);
+  auto const offset = line.substr(0, digitsAtFront(line));
+  bool const fromStart = offset.size() >= 7 && offset.find_first_not_of('0') == npos;
+  return takeDumpLine(line, bytes) && (fromStart || beginsWithTag(bytes));
 }
 
 template <class Take, class IsPacked>

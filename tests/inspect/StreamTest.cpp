@@ -213,6 +213,7 @@ TEST(Stream, UnpacksCaptures) {
       {Capture::hex, hexOf(text, 32, false)},
       {Capture::hex, hexOf(text, 100000, false)},
       {Capture::dump, hexOf(text, 16, true)},
+      {Capture::dump, hexOf("12:00 RX " + text, 16, true)},
       {Capture::base64, base64Of(text)},
       {Capture::escaped, escapedOf(text)},
       {Capture::escaped, "12:00 RX " + escapedOf(text)},
