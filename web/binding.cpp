@@ -65,6 +65,7 @@ FateId fateOf(RuleId reason) {
   case RuleId::afterNul:
   case RuleId::passedOver:
   case RuleId::blocked:
+  case RuleId::hiddenByClose:
   case RuleId::repeated:
   case RuleId::emptyPart:
     return dropped;
