@@ -7,7 +7,7 @@ from typing import Any, BinaryIO, Iterator, List, Optional, Union
 from . import _native
 from ._inspect import Data, Finding, check
 from ._messages import AnyMessage
-from ._native import Kind
+from ._native import Kind, Severity
 from ._record import Message
 
 
@@ -30,13 +30,16 @@ class DamagedMessage(ValueError):
         super().__init__("\n".join(str(finding) for finding in findings))
 
 
-def decode(data: Data, kind: Optional[Kind] = None, *, strict: bool = False) -> Any:
+def decode(
+    data: Data, kind: Optional[Kind] = None, *, strict: Union[bool, Severity] = False
+) -> Any:
     """Reads a message exactly as the library does: damage gives empty texts, defaults and dropped
     entries, never an error.
 
     :param data: the message; bytes of a ``str`` that are no UTF-8 are surrogate escapes
     :param kind: the log of a bare entry that does not tell it
-    :param strict: whether everything that :func:`check` remarks on is an error
+    :param strict: whether everything that :func:`check` remarks on is an error; a Severity for
+        this one and those above it
     :return: an object of AnyMessage; an entry for a bare entry and for the answer about the last
         dialled number
     :raises NotAMessage: when it is no message of the journal service
@@ -47,11 +50,13 @@ def decode(data: Data, kind: Optional[Kind] = None, *, strict: bool = False) -> 
     >>> jm.decode(b"<Method><getMissedCallList></Method><Handle>7</Handle>").handle
     7
     """
+    __tracebackhide__ = True  # pytest shows the caller's line
     message: Optional[AnyMessage] = _native.decode(data, kind)
     if message is None:
         raise NotAMessage(data)
     if strict:
-        findings = check(data, kind)
+        # True is 1, as the lowest severity is.
+        findings = [one for one in check(data, kind) if one.severity >= strict]
         if findings:
             raise DamagedMessage(findings)
     return message
@@ -96,7 +101,9 @@ def _chunks(source: Source) -> Iterator[bytes]:
             yield chunk
 
 
-def scan(source: Source, kind: Optional[Kind] = None, *, strict: bool = False) -> Iterator[Any]:
+def scan(
+    source: Source, kind: Optional[Kind] = None, *, strict: Union[bool, Severity] = False
+) -> Iterator[Any]:
     """The messages in a capture, one by one, in memory for a single message.
 
     Messages may be between other text, hexadecimal dumps, base64 or escaped.

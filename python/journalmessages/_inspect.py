@@ -1,7 +1,8 @@
 """What the inspector tells about a message."""
 from __future__ import annotations
 
-from typing import Iterable, List, NamedTuple, Optional, Tuple, Union
+import re
+from typing import Iterable, List, NamedTuple, Optional, Set, Tuple, Union
 
 from . import _native
 from ._messages import EntryNotification, ListResponse
@@ -34,7 +35,9 @@ class Finding(NamedTuple):
 
     def __str__(self) -> str:
         where = f" {self.element}" if self.element else ""
-        return f"{self.severity.name.lower()} at {self.offset}{where}: {self.what}: {self.text!r}"
+        found = f": {self.text!r}" if self.text else ""
+        severity = self.severity.name.lower()
+        return f"{severity} at {self.offset}{where} [{self.rule}]: {self.what}{found}"
 
 
 class Piece(NamedTuple):
@@ -85,12 +88,23 @@ def _data(message: Union[Data, Message]) -> Data:
     return message.raw if isinstance(message, Message) else message
 
 
-def check(message: Union[Data, Message], kind: Optional[Kind] = None) -> List[Finding]:
+def _names(given: Union[str, Iterable[str]]) -> Set[str]:
+    return {given} if isinstance(given, str) else set(given)
+
+
+def check(
+    message: Union[Data, Message],
+    kind: Optional[Kind] = None,
+    *,
+    ignore: Union[str, Iterable[str]] = (),
+) -> List[Finding]:
     """Everything in a message that the library would not have written, in the order of the bytes.
 
     :param message: the bytes; of a message object its ``raw`` bytes are checked
     :param kind: the log of a bare entry that does not tell it
+    :param ignore: ids of rules that are known to be broken: "not-utf8"
     :return: the findings, an empty list when there is nothing to remark
+    :raises ValueError: when no rule has such an id
 
     >>> import journalmessages as jm
     >>> jm.check(jm.requests.subscribe())
@@ -98,10 +112,14 @@ def check(message: Union[Data, Message], kind: Optional[Kind] = None) -> List[Fi
     >>> jm.check(b"<Value>Succes</Value>")[0].rule
     'outcome-form'
     """
+    ignored = _names(ignore)
+    for unknown in sorted(ignored - {rule.id for rule in _rules}):
+        raise ValueError(f"no rule is called {unknown!r}; rules() lists them")
     findings = []
     for rule, offset, element, text, instead in _native.check(_data(message), kind):
         name, severity, what, why = _rules[rule]
-        findings.append(Finding(name, severity, offset, element, text, instead, what, why))
+        if name not in ignored:
+            findings.append(Finding(name, severity, offset, element, text, instead, what, why))
     return findings
 
 
@@ -125,28 +143,53 @@ def identify(message: Union[Data, Message]) -> Identity:
     return Identity(*_native.identify(_data(message)))
 
 
+_calls = "callInfoList"
+_fields = {*_native.compared_fields(), _calls}
+
+
+def _in_json(name: str) -> str:
+    """time_date becomes timeDate."""
+    own = {"calls": _calls, "enabled": "callLogEnabled"}
+    return own.get(name) or re.sub("_(.)", lambda found: found[1].upper(), name)
+
+
 def diff(
-    left: Union[Data, Message], right: Union[Data, Message], ignore: Iterable[str] = ()
+    left: Union[Data, Message],
+    right: Union[Data, Message],
+    ignore: Union[str, Iterable[str]] = (),
 ) -> List[Difference]:
     """The values in which two messages differ. Entries are matched by their unique ids.
 
     :param left: bytes, or a message object as it is now
     :param right: the same
-    :param ignore: names of fields that are not compared, as in JSON: "handle", "timeDate"
+    :param ignore: names of fields that are not compared, as in JSON: "handle", "timeDate";
+        "callInfoList" is all calls
     :return: the differences, an empty list when the records are equal
+    :raises ValueError: when no field has such a name
 
     >>> import journalmessages as jm
     >>> left, right = jm.ListResponse(jm.Kind.MISSED, handle=1), jm.ListResponse(jm.Kind.MISSED)
     >>> print(jm.diff(left, right)[0])
     handle: '1' != '0'
     """
-    return [Difference(*found) for found in _native.diff(left, right, ignore)]
+    ignored = _names(ignore)
+    for unknown in sorted(ignored - _fields):
+        known = _in_json(unknown) in _fields
+        hint = f"; in JSON it is {_in_json(unknown)!r}" if known else ""
+        raise ValueError(f"no field is called {unknown!r}{hint}")
+    found = [Difference(*one) for one in _native.diff(left, right, ignored)]
+    return [one for one in found if not (_calls in ignored and one.field.startswith(_calls))]
 
 
-def apply(notification: EntryNotification, log: ListResponse) -> Tuple[ListResponse, str]:
+def apply(
+    notification: Union[Data, EntryNotification], log: Union[Data, ListResponse]
+) -> Tuple[ListResponse, str]:
     """A log after a notification, as a client keeps it: an added entry is in front.
 
+    :param notification: bytes, or an object as it is now
+    :param log: the same; it stays as it was
     :return: a new log, and what does not fit; an empty text when everything does
+    :raises TypeError: for other messages
     """
     after, problem = _native.apply(notification, log)
     return after, problem

@@ -1,8 +1,10 @@
 """The messages that hold more than one entry, or none."""
 from __future__ import annotations
 
-from dataclasses import dataclass, field
-from typing import List, Optional, Union
+import enum
+from dataclasses import dataclass, field, fields
+from functools import lru_cache
+from typing import Any, List, Optional, Tuple, Union, get_args, get_origin, get_type_hints
 
 from ._native import Action, DialledEntry, ForwardedEntry, Kind, MissedEntry, ReceivedEntry
 from ._record import Message
@@ -10,8 +12,34 @@ from ._record import Message
 AnyEntry = Union[MissedEntry, DialledEntry, ReceivedEntry, ForwardedEntry]
 
 
+def _classes(hint: Any) -> Tuple[type, ...]:
+    if get_origin(hint) is Union:
+        return tuple(one for part in get_args(hint) for one in _classes(part))
+    return (get_origin(hint) or hint,)
+
+
+@lru_cache(maxsize=None)
+def _check(message: Any, *given: type) -> None:
+    """Whether the attributes of a class of messages take these types."""
+    hints = get_type_hints(message)
+    for one, cls in zip(fields(message), given):
+        wanted = _classes(hints[one.name])
+        # A flag or an Action is an int too, but a mistake where a number is wanted.
+        special = issubclass(cls, (bool, enum.IntEnum)) and cls not in wanted
+        if special or not issubclass(cls, wanted):
+            raise TypeError(f"{one.name} takes {one.type}, not {cls.__name__}")
+
+
+class _Checked(Message):
+    """A message whose arguments have the types of its class. What lists hold, ``encode`` checks."""
+
+    def __post_init__(self) -> None:
+        own: Any = type(self)
+        _check(own, *map(type, vars(self).values()))
+
+
 @dataclass
-class Request(Message):
+class Request(_Checked):
     """A client's request to the journal service; :mod:`journalmessages.requests` builds them."""
 
     method: str
@@ -19,7 +47,7 @@ class Request(Message):
 
 
 @dataclass
-class ListResponse(Message):
+class ListResponse(_Checked):
     """The answer to a request for a log: all its entries."""
 
     kind: Kind
@@ -27,9 +55,25 @@ class ListResponse(Message):
     handle: int = 0
     outcome: Optional[bool] = None  # Success or Failure, where the message has such a Value
 
+    def entry(self, unique_id: str) -> AnyEntry:
+        """The entry with this unique id, the first one if there are several.
+
+        :raises LookupError: when there is none, with the ids that there are
+
+        >>> import journalmessages as jm
+        >>> log = jm.ListResponse(jm.Kind.MISSED, [jm.MissedEntry("m-1", surname="Berg")])
+        >>> log.entry("m-1").surname
+        'Berg'
+        """
+        for one in self.entries:
+            if one.unique_id == unique_id:
+                return one
+        there = [one.unique_id for one in self.entries]
+        raise LookupError(f"no entry {unique_id!r}, but {there}")
+
 
 @dataclass
-class EntryNotification(Message):
+class EntryNotification(_Checked):
     """An entry of a log was added, has changed, or was deleted.
 
     The action is an ``int`` where it is no :class:`Action`, and ``None`` where the message has
@@ -48,7 +92,7 @@ class EntryNotification(Message):
 
 
 @dataclass
-class CounterNotification(Message):
+class CounterNotification(_Checked):
     """A counter has a new value. The method tells which: missedCallsCountUpdate or
     missedGroupCallsUpdate."""
 
@@ -57,7 +101,7 @@ class CounterNotification(Message):
 
 
 @dataclass
-class StoreRequest(Message):
+class StoreRequest(_Checked):
     """A client's request to the data store; :mod:`journalmessages.store` builds them."""
 
     schema: str
@@ -65,7 +109,7 @@ class StoreRequest(Message):
 
 
 @dataclass
-class Outcome(Message):
+class Outcome(_Checked):
     """Whether a request succeeded; with the request's method and ids where the answer repeats
     them."""
 
@@ -75,7 +119,7 @@ class Outcome(Message):
 
 
 @dataclass
-class Setting(Message):
+class Setting(_Checked):
     """The store's answer about the call log."""
 
     enabled: bool

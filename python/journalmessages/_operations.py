@@ -1,6 +1,7 @@
 """Makes the functions that build messages, from the library's table of operations."""
 from __future__ import annotations
 
+import collections.abc
 import re
 from typing import Any, Callable, Dict, Iterable, List, NamedTuple, Optional, Union
 
@@ -29,11 +30,14 @@ def python_name(name: str) -> str:
     return re.sub("(?<!^)(?=[A-Z])", "_", plain).lower()
 
 
-def id_list(ids: Union[str, Iterable[str]]) -> List[str]:
-    """One id, or several."""
-    given = [ids] if isinstance(ids, str) else list(ids)
-    if not all(isinstance(one, str) for one in given):
-        raise TypeError("ids are texts")
+def id_list(name: str, ids: Union[str, Iterable[str]]) -> List[str]:
+    """One id, or several; the argument's name is for the error."""
+    several = isinstance(ids, collections.abc.Iterable) and not isinstance(ids, (str, bytes))
+    given: List[Any] = list(ids) if several else [ids]
+    for one in given:
+        if not isinstance(one, str):
+            what = type(one).__name__
+            raise TypeError(f"{name} takes a str or a collection of str, not {what}")
     return given
 
 
@@ -51,14 +55,14 @@ def _nothing(operation: Operation) -> Callable[..., bytes]:
 
 def _id(operation: Operation) -> Callable[..., bytes]:
     def build(entry_id: Union[str, Iterable[str]]) -> bytes:
-        return _native.make(operation.name, id_list(entry_id))
+        return _native.make(operation.name, id_list("entry_id", entry_id))
 
     return build
 
 
 def _ids(operation: Operation) -> Callable[..., bytes]:
     def build(entry_ids: Union[str, Iterable[str]] = ()) -> bytes:
-        return _native.make(operation.name, id_list(entry_ids))
+        return _native.make(operation.name, id_list("entry_ids", entry_ids))
 
     return build
 
@@ -79,6 +83,8 @@ def _entry(operation: Operation) -> Callable[..., bytes]:
     ) -> bytes:
         if getattr(entry, "kind", None) is not operation.kind:
             raise TypeError(f"takes a {class_name(operation.kind)}, not {entry!r}")
+        if action is None:
+            raise TypeError("action takes an Action or an int: None cannot be written")
         return encode(EntryNotification(entry, action, handle, unique_id_to_delete))
 
     build.__annotations__["entry"] = class_name(operation.kind)
@@ -100,7 +106,7 @@ _takes = {
 _raises = {
     "nothing": "",
     "count": "\n:raises ValueError: for any other number",
-    "entry": "\n:raises TypeError: for any other entry\n:raises ValueError: for any other number",
+    "entry": "\n:raises TypeError: for any other entry, and for no action\n:raises ValueError: for any other number",
 }
 _examples = {"nothing": "", "id": '"12"', "ids": '{"12", "7"}', "count": "3"}
 

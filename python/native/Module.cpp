@@ -155,10 +155,17 @@ py::list diff(py::handle left, py::handle right, py::iterable const& ignored) {
   return tuplesOf(inspect::diff(decodedOf(left), decodedOf(right), names));
 }
 
+py::list comparedFields() {
+  py::list all;
+  for (auto const& name : inspect::comparedFields())
+    all.append(textOf(name));
+  return all;
+}
+
 /// The log after the notification, and what does not fit.
 py::tuple apply(py::handle notification, py::handle list) {
-  auto after = fromPython(list);
-  auto const change = fromPython(notification);
+  auto after = decodedOf(list);
+  auto const change = decodedOf(notification);
   auto* const log = std::get_if<inspect::ListResponse>(&after.message);
   auto const* const what = std::get_if<inspect::EntryNotification>(&change.message);
   if (log == nullptr || what == nullptr)
@@ -211,6 +218,7 @@ PYBIND11_MODULE(_native, module) {
   module.def("explain", &explain);
   module.def("identify", &identify);
   module.def("diff", &diff);
+  module.def("compared_fields", &comparedFields);
   module.def("apply", &apply);
   module.def("rules", &rules);
   module.def("operations", &operations);

@@ -48,8 +48,16 @@ def test_a_request_for_one_entry_takes_one_id():
     assert jm.requests.delete_missed_call("7") == jm.requests.delete_missed_call({"7"})
     with pytest.raises(ValueError, match="one id"):
         jm.requests.delete_missed_call({"7", "12"})
-    with pytest.raises(TypeError):
-        jm.requests.delete_missed_call([7])
+
+
+@pytest.mark.parametrize(
+    "ids, given", [(7, "int"), ([7], "int"), (None, "NoneType"), (b"7", "bytes")]
+)
+def test_ids_are_texts(ids, given):
+    with pytest.raises(TypeError, match=f"^entry_id takes a str or a .* of str, not {given}$"):
+        jm.requests.delete_missed_call(ids)
+    with pytest.raises(TypeError, match="^entry_ids takes"):
+        jm.requests.delete_missed_call_list(ids)
 
 
 @pytest.mark.parametrize(
@@ -74,6 +82,11 @@ def test_notifications_are_read_back(kind, removing, golden):
 def test_a_notification_takes_an_entry_of_its_log():
     with pytest.raises(TypeError, match="MissedEntry"):
         jm.notifications.missed_calls_update(jm.DialledEntry())
+
+
+def test_a_notification_takes_an_action():
+    with pytest.raises(TypeError, match="cannot be written"):
+        jm.notifications.missed_calls_update(jm.MissedEntry(), None, 3)
 
 
 @pytest.mark.parametrize("count", [0, 3, 2**31, 2**32 - 1])

@@ -10,6 +10,7 @@ import journalmessages as jm
 MODULES = [
     "_codec",
     "_inspect",
+    "_messages",
     "_record",
     "requests",
     "store",

@@ -133,8 +133,116 @@ def test_a_notification_applied_to_a_log():
         "",
     )
     assert len(log.entries) == 1
+    assert jm.apply(added.raw, log.raw) == (after, problem)
     _, problem = jm.apply(added, after)
     assert "already there" in problem
+
+
+@pytest.mark.parametrize(
+    "build, text",
+    [
+        (
+            lambda: jm.EntryNotification(jm.MissedEntry(), jm.Kind.MISSED, 8),
+            "action takes Union[Action, int, None], not Kind",
+        ),
+        (
+            lambda: jm.EntryNotification(jm.MissedEntry(), 0, jm.Action.ENTRY_DELETED),
+            "handle takes int, not Action",
+        ),
+        (
+            lambda: jm.EntryNotification(jm.MissedEntry(), 0, 8, 9),
+            "unique_id_to_delete takes str, not int",
+        ),
+        (lambda: jm.EntryNotification("m-1"), "entry takes AnyEntry, not str"),
+        (lambda: jm.ListResponse(jm.Kind.MISSED, ()), "entries takes List[AnyEntry], not tuple"),
+        (lambda: jm.ListResponse(jm.Kind.MISSED, [], True), "handle takes int, not bool"),
+        (lambda: jm.ListResponse(0), "kind takes Kind, not int"),
+        (lambda: jm.Request("subscribe", "31"), "entry_ids takes List[str], not str"),
+        (lambda: jm.Outcome("Success"), "ok takes bool, not str"),
+    ],
+)
+def test_arguments_of_messages_have_their_types(build, text):
+    with pytest.raises(TypeError) as error:
+        build()
+    assert str(error.value) == text
+
+
+def test_an_action_may_be_none_or_a_number():
+    for action in (jm.Action.ENTRY_DELETED, 7, None):
+        assert jm.EntryNotification(jm.MissedEntry(), action).action is action
+
+
+def test_an_entry_by_its_unique_id():
+    entries = [jm.MissedEntry("m-1"), jm.MissedEntry("m-2"), jm.MissedEntry("m-2", "31")]
+    log = jm.ListResponse(jm.Kind.MISSED, entries)
+    assert log.entry("m-2") is entries[1]
+    with pytest.raises(LookupError, match="no entry '31'.*'m-1', 'm-2'"):
+        log.entry("31")
+
+
+CALLS = [jm.MissedCall(number="1", time_date="a"), jm.MissedCall()]
+
+
+def missed(surname, calls=(), handle=0):
+    return jm.ListResponse(jm.Kind.MISSED, [jm.MissedEntry("1", "", surname, calls=[*calls])], handle)
+
+
+def test_a_difference_is_ignored_by_its_name():
+    left, right = missed("A", CALLS[:1]), missed("B", CALLS[1:], 7)
+    fields = {difference.field for difference in jm.diff(left, right)}
+    assert fields == {"surname", "callInfoList[0].number", "callInfoList[0].timeDate", "handle"}
+    for name in ("surname", ["surname"], {"surname"}):
+        assert {one.field for one in jm.diff(left, right, ignore=name)} == fields - {"surname"}
+    rest = jm.diff(left, right, ignore=["surname", "number", "handle"])
+    assert [one.field for one in rest] == ["callInfoList[0].timeDate"]
+
+
+def test_all_calls_are_ignored_at_once():
+    for calls in (CALLS, CALLS[1:], []):
+        left, right = missed("A", CALLS[:1]), missed("B", calls)
+        (difference,) = jm.diff(left, right, ignore="callInfoList")
+        assert difference.field == "surname"
+
+
+@pytest.mark.parametrize(
+    "name, hint",
+    [
+        ("time_date", "; in JSON it is 'timeDate'"),
+        ("calls", "; in JSON it is 'callInfoList'"),
+        ("nonsense", ""),
+        ("", ""),
+    ],
+)
+def test_an_unknown_field_cannot_be_ignored(name, hint):
+    with pytest.raises(ValueError) as error:
+        jm.diff(missed("A"), missed("A"), ignore=["handle", name])
+    assert str(error.value) == f"no field is called {name!r}{hint}"
+
+
+def test_findings_are_ignored_by_their_rules():
+    text = missed("M\udcfcller").raw.replace(b"<Viewed>False</Viewed>", b"")
+    assert [finding.rule for finding in jm.check(text)] == ["not-utf8", "missing"]
+    assert [finding.rule for finding in jm.check(text, ignore="not-utf8")] == ["missing"]
+    assert jm.check(text, ignore=["not-utf8", "missing"]) == []
+    with pytest.raises(ValueError, match="no rule is called 'utf8'"):
+        jm.check(text, ignore=["missing", "utf8"])
+
+
+def test_strict_takes_a_severity():
+    text = missed("M\udcfcller").raw
+    assert jm.decode(text, strict=jm.Severity.WARNING).raw == text
+    for strict in (True, jm.Severity.NOTE):
+        with pytest.raises(jm.DamagedMessage):
+            jm.decode(text, strict=strict)
+    with pytest.raises(jm.DamagedMessage):
+        jm.decode(text + b"<Value>", strict=jm.Severity.WARNING)
+
+
+def test_a_finding_as_text():
+    (found,) = jm.check(b"<Value>Succes</Value>")
+    assert str(found) == f"warning at 0 Value [outcome-form]: {found.what}: 'Succes'"
+    empty = found._replace(element="", text="")
+    assert str(empty) == f"warning at 0 [outcome-form]: {found.what}"
 
 
 def test_other_threads_run_while_decoding(journal_samples):
@@ -188,6 +296,7 @@ def test_threads_use_the_package_at_once():
         lambda: jm.check(None),
         lambda: jm.diff(3, b""),
         lambda: jm.apply(jm.Setting(True), jm.Setting(True)),
+        lambda: jm.apply(b"<Value>Success</Value>", jm.requests.subscribe()),
     ],
 )
 def test_arguments_of_another_type(call):

@@ -23,6 +23,10 @@ assert isinstance(entry, jm.MissedEntry)
 entry.calls.append(jm.MissedCall(number="5", number_type=jm.NumberType.MOBILE))
 viewed: bool = entry.viewed
 surname: str = log.entries[0].surname
+firstname: str = log.entry("m-1").firstname
+known = jm.check(log, ignore="not-utf8") + jm.check(log, ignore=["not-utf8"])
+after, problem = jm.apply(device(log.raw), device(log.raw))
+jm.decode(log.raw, strict=jm.Severity.WARNING)
 note = jm.notifications.missed_calls_update(entry, jm.Action.ENTRY_ADDED, handle=7)
 severities = [finding.severity is jm.Severity.ERROR for finding in jm.check(note)]
 ok, value = lowlevel.getXMLValue("<A>7</A>", "A", 0)
