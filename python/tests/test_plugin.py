@@ -42,6 +42,60 @@ def test_bytes():
         result.stdout.fnmatch_lines([line])
 
 
+def test_equal_values_differ_in_their_bytes(pytester):
+    result = run(
+        pytester,
+        """
+def test_bytes():
+    raw = log("Berg").raw
+    assert raw == raw.replace(b"<Viewed>", b"\\n<Viewed>")
+""",
+    )
+    result.assert_outcomes(failed=1)
+    line = r"the same values; the bytes differ from \d+: b'<Viewed>Fal' != b'\\n<Viewed>Fa'"
+    result.stdout.re_match_lines([f".*{line}"])
+
+
+def test_lists_and_messages_of_other_classes(pytester):
+    result = run(
+        pytester,
+        """
+def test_entries():
+    assert log("Berg").entries == log("Sohn").entries
+def test_no_entries():
+    assert [] == log("Berg").entries
+def test_calls():
+    assert log("Berg").entries[0].calls == log("Sohn").entries[0].calls
+def test_findings():
+    assert jm.check(log("Berg").raw.replace(b"<Viewed>", b" <Viewed>")) == []
+def test_differences():
+    assert [] == jm.diff(log("Berg"), log("Sohn"))
+def test_messages():
+    assert log("Berg") == jm.Outcome(ok=True)
+""",
+    )
+    result.assert_outcomes(failed=6)
+    for line in (
+        "*lists of MissedEntry differ:*",
+        "*m-1 surname: 'Berg' != 'Sohn'*",
+        "*m-1: None != 'present'*",
+        "*lists of MissedCall differ:*",
+        "*callInfoList*0*.number: 'Berg' != 'Sohn'*",
+        "*lists of Finding differ:*",
+        "*note at * [[]white-space[]]: *",
+        "*lists of Difference differ:*",
+        "*m-1 surname: 'Berg' != 'Sohn'*",
+        "*ListResponse and Outcome differ:*",
+        "*kind: 'listResponse' != 'outcome'*",
+    ):
+        result.stdout.fnmatch_lines([line])
+
+
+def test_the_last_line_is_the_tests_own(pytester):
+    result = run(pytester, "def test_it(): jm.decode('hello')")
+    result.stdout.re_match_lines([r"test_the_last_line_is_the_tests_own\.py:\d+: NotAMessage"])
+
+
 def test_other_comparisons_are_left_alone(pytester):
     result = run(
         pytester,
@@ -50,9 +104,16 @@ def test_texts():
     assert b"one" == b"two"
 def test_order():
     assert log("Berg") != log("Berg")
+def test_lists():
+    assert [1] == []
+def test_mixed():
+    assert [jm.MissedEntry(), jm.DialledEntry()] == []
+def test_what_cannot_be_written():
+    assert jm.ListResponse(jm.Kind.MISSED, handle=-1) == log("Berg")
 """,
     )
-    result.assert_outcomes(failed=2)
+    result.assert_outcomes(failed=5)
+    assert "Error" not in result.stdout.str().replace("AssertionError", "")
     assert "differ:" not in result.stdout.str()
 
 
