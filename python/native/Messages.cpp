@@ -13,18 +13,38 @@
 namespace python {
 namespace {
 
+/// A class of messages, with the names of its attributes in order.
+class Class {
+public:
+  explicit Class(char const* name)
+      : type(py::module_::import("journalmessages._messages").attr(name)),
+        names(type.attr("__dataclass_fields__")) {}
+
+  bool has(py::handle object) const { return py::isinstance(object, type); }
+
+  /// A new object without a call of the constructor, which checks what is known to be right here.
+  template <class... Values>
+  py::object operator()(Values&&... values) const {
+    auto const object = type.attr("__new__")(type);
+    std::size_t at = 0;
+    ((object.attr(names[at++]) = std::forward<Values>(values)), ...);
+    return object;
+  }
+
+private:
+  py::object type;
+  py::tuple names;
+};
+
 /// The classes of messages, imported when the first one is needed and kept for good.
 struct Classes {
-  static py::object named(char const* name) {
-    return py::module_::import("journalmessages._messages").attr(name);
-  }
-  py::object request = named("Request");
-  py::object listResponse = named("ListResponse");
-  py::object entryNotification = named("EntryNotification");
-  py::object counterNotification = named("CounterNotification");
-  py::object storeRequest = named("StoreRequest");
-  py::object outcome = named("Outcome");
-  py::object setting = named("Setting");
+  Class request{"Request"};
+  Class listResponse{"ListResponse"};
+  Class entryNotification{"EntryNotification"};
+  Class counterNotification{"CounterNotification"};
+  Class storeRequest{"StoreRequest"};
+  Class outcome{"Outcome"};
+  Class setting{"Setting"};
 };
 
 Classes const& classes() {
@@ -159,25 +179,25 @@ inspect::Message messageIn(py::handle object) {
   auto const& known = classes();
   if (logOfEntry(object))
     return inspect::BareEntry{entryOf(object)};
-  if (py::isinstance(object, known.listResponse))
+  if (known.listResponse.has(object))
     return inspect::ListResponse{entriesOf(logIn(object), object.attr("entries")),
                                  numberIn(object, "handle")};
-  if (py::isinstance(object, known.entryNotification)) {
+  if (known.entryNotification.has(object)) {
     auto const absent = object.attr("action").is_none();
     return inspect::EntryNotification{
         entryOf(object.attr("entry")), textIn(object, "unique_id_to_delete"),
         absent ? std::optional<std::uint32_t>() : numberIn(object, "action"),
         numberIn(object, "handle")};
   }
-  if (py::isinstance(object, known.request))
+  if (known.request.has(object))
     return inspect::Request{textIn(object, "method"), idsIn(object)};
-  if (py::isinstance(object, known.counterNotification))
+  if (known.counterNotification.has(object))
     return inspect::CounterNotification{textIn(object, "method"), numberIn(object, "value")};
-  if (py::isinstance(object, known.storeRequest))
+  if (known.storeRequest.has(object))
     return inspect::StoreRequest{textIn(object, "schema"), textIn(object, "reason")};
-  if (py::isinstance(object, known.outcome))
+  if (known.outcome.has(object))
     return inspect::Outcome{textIn(object, "method"), idsIn(object), flagIn(object, "ok")};
-  if (py::isinstance(object, known.setting))
+  if (known.setting.has(object))
     return inspect::Setting{flagIn(object, "enabled")};
   throw py::type_error(std::string("a message or an entry expected, not ") +
                        Py_TYPE(object.ptr())->tp_name);
