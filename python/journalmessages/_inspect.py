@@ -143,13 +143,12 @@ def identify(message: Union[Data, Message]) -> Identity:
     return Identity(*_native.identify(_data(message)))
 
 
-_calls = "callInfoList"
-_fields = {*_native.compared_fields(), _calls}
+_fields = set(_native.compared_fields())
 
 
 def _in_json(name: str) -> str:
     """time_date becomes timeDate."""
-    own = {"calls": _calls, "enabled": "callLogEnabled"}
+    own = {"calls": "callInfoList", "enabled": "callLogEnabled"}
     return own.get(name) or re.sub("_(.)", lambda found: found[1].upper(), name)
 
 
@@ -177,8 +176,7 @@ def diff(
         known = _in_json(unknown) in _fields
         hint = f"; in JSON it is {_in_json(unknown)!r}" if known else ""
         raise ValueError(f"no field is called {unknown!r}{hint}")
-    found = [Difference(*one) for one in _native.diff(left, right, ignored)]
-    return [one for one in found if not (_calls in ignored and one.field.startswith(_calls))]
+    return [Difference(*found) for found in _native.diff(left, right, ignored)]
 
 
 def apply(
