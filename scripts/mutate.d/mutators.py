@@ -100,7 +100,7 @@ class Finder:
         if token.kind == 'number':
             digits, suffix = re.fullmatch(r"([\da-fA-FxX']+)([uUlL]*)", token.text).groups()
             value, write = int(digits.replace("'", ''), 0), hex if 'x' in digits else str
-            for other in range(max(0, value - 1), value + 2):
+            for other in (value - 1, value + 1)[value == 0:]:
                 yield self.replace(at, at, write(other) + suffix)
         elif token.kind == 'char':
             yield self.replace(at, at, f'char({token.text} + 1)')
