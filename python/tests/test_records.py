@@ -3,6 +3,8 @@ import copy
 import dataclasses
 import gc
 import pickle
+import re
+from pathlib import Path
 
 import pytest
 
@@ -22,28 +24,24 @@ def log_of(*surnames):
     return jm.decode(jm.responses.get_missed_call_list(entries, 7))
 
 
-def test_the_fields_are_in_the_order_of_the_header():
-    assert jm.MissedEntry.__match_args__ == (
-        "unique_id",
-        "entry_id",
-        "surname",
-        "firstname",
-        "picture",
-        "calls",
-        "viewed",
-    )
-    assert jm.DialledEntry.__match_args__[4:] == ("js_group_by", "calls", "picture")
-    assert jm.ForwardedCall.__match_args__ == (
-        "info_key",
-        "number",
-        "number_type",
-        "connected_number",
-        "connected_number_type",
-        "connected_surname",
-        "connected_first_name",
-        "duration",
-        "time_date",
-    )
+HEADER = (Path(__file__).parents[2] / "include" / "CallLogItems.h").read_text()
+
+
+def declared(struct):
+    """The members of a struct of the header by their Python names, in order."""
+    body = re.search(rf"^( *)struct {struct} {{\n(.*?)^\1}};", HEADER, re.M | re.S)
+    indent = body[1] + "  "
+    names = re.findall(rf"^{indent}[\w:<>]+ (\w+)(?: = .*)?;", body[2], re.M)
+    snake = [re.sub("[A-Z]+", lambda found: "_" + found[0].lower(), name) for name in names]
+    return tuple("calls" if name == "call_info_list" else name for name in snake)
+
+
+@pytest.mark.parametrize("record", ENTRIES + CALLS)
+def test_the_fields_are_in_the_order_of_the_header(record):
+    kind = record.kind.name.capitalize()
+    struct = f"{kind}CallItem" if record in ENTRIES else f"{kind}CallInfo"
+    assert record.__match_args__ == declared(struct)
+    assert len(declared(struct)) > 4
 
 
 @pytest.mark.parametrize("record", ENTRIES + CALLS)
