@@ -31,7 +31,7 @@ def declared(struct):
     """The members of a struct of the header by their Python names, in order."""
     body = re.search(rf"^( *)struct {struct} {{\n(.*?)^\1}};", HEADER, re.M | re.S)
     indent = body[1] + "  "
-    names = re.findall(rf"^{indent}[\w:<>]+ (\w+)(?: = .*)?;", body[2], re.M)
+    names = re.findall(rf"^{indent}[\w:<>]+ (\w+)(?:;| =)", body[2], re.M)
     snake = [re.sub("[A-Z]+", lambda found: "_" + found[0].lower(), name) for name in names]
     return tuple("calls" if name == "call_info_list" else name for name in snake)
 
