@@ -11,9 +11,9 @@ ldconfig
 cd /tmp
 g++ /project/tests/consumer/program.cpp $(pkg-config --cflags --libs JournalServiceHelper) -o program
 [ "$(./program)" = 'Berg & Sohn 7 <getMissedCallList>' ]
-cmake -S /project/tests/consumer/find-package -B found
+cmake -S /project/tests/consumer/find-package -B found -G Ninja
 cmake --build found
 [ "$(found/program)" = 'Berg & Sohn 7 <getMissedCallList>' ]
-cmake -S /project/tests/consumer/parent -B parent
+cmake -S /project/tests/consumer/parent -B parent -G Ninja
 cmake --build parent
 [ "$(parent/program)" = 'Berg & Sohn 7 <getMissedCallList>' ]
