@@ -119,3 +119,4 @@ def complete(record: Any) -> None:
             fields.append((name, type(value), dataclasses.field(default=value)))
     shadow: Any = dataclasses.make_dataclass(record.__name__, fields)
     record.__dataclass_fields__ = shadow.__dataclass_fields__
+    record.__dataclass_params__ = shadow.__dataclass_params__  # for pprint

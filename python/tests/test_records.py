@@ -3,6 +3,7 @@ import copy
 import dataclasses
 import gc
 import pickle
+import pprint
 import re
 from pathlib import Path
 
@@ -42,6 +43,12 @@ def test_the_fields_are_in_the_order_of_the_header(record):
     struct = f"{kind}CallItem" if record in ENTRIES else f"{kind}CallInfo"
     assert record.__match_args__ == declared(struct)
     assert len(declared(struct)) > 4
+
+
+@pytest.mark.parametrize("record", ENTRIES + CALLS)
+def test_a_record_in_a_long_list_is_printed_prettily(record):
+    many = [record()] * 20
+    assert pprint.pformat(many).count(repr(record())) == 20
 
 
 @pytest.mark.parametrize("record", ENTRIES + CALLS)
