@@ -5,7 +5,8 @@ docs/performance.md.
 usage: captures.py JOURNALMSG FOLDER [MEGABYTES]
 
 The capture repeats the golden messages and sample logs up to that size, 1,000 MB if none is given,
-without those that no XML parser accepts. jq gets it as the JSON that journalmsg makes of it, xmllint as one XML document.
+without those that no XML parser accepts. jq gets it as the JSON that journalmsg makes of it, xmllint
+as one XML document.
 """
 
 import re

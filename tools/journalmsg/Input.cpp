@@ -19,6 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 constexpr std::size_t pieceSize = std::size_t{1} << 18;
+constexpr std::string_view gzipMagic = "\x1f\x8b";
 
 std::string nameOf(std::string const& path) {
   return path == "-" ? "standard input" : path;
@@ -38,6 +39,23 @@ struct Descriptor {
   Descriptor& operator=(Descriptor const&) = delete;
   int number;
 };
+
+/// Reads at least so many bytes, fewer only at the end.
+std::string_view readSome(Descriptor const& file, std::string const& path, std::string& buffer,
+                          std::size_t least) {
+  std::size_t size = 0;
+  while (size < least) {
+    auto const count = ::read(file.number, buffer.data() + size, buffer.size() - size);
+    if (count < 0 && errno == EINTR)
+      continue;
+    if (count < 0)
+      failReading(path, std::generic_category().message(errno));
+    if (count == 0)
+      break;
+    size += static_cast<std::size_t>(count);
+  }
+  return std::string_view(buffer).substr(0, size);
+}
 
 /// Unpacks gzip, several members one after another too.
 class Inflater {
@@ -195,31 +213,15 @@ void readPieces(std::string const& path, std::function<void(std::string_view)> c
   if (file.number < 0)
     failReading(path, std::generic_category().message(errno));
   std::unique_ptr<Inflater> inflater;
-  std::string piece(pieceSize, '\0');
-  std::size_t front = 0; ///< bytes that are there, but too few to tell whether this is gzip
-  bool first = true;
-  while (true) {
-    auto const size = ::read(file.number, piece.data() + front, piece.size() - front);
-    if (size < 0 && errno == EINTR)
-      continue;
-    if (size < 0)
-      failReading(path, std::generic_category().message(errno));
-    if (size == 0)
-      break;
-    auto const bytes = std::string_view(piece).substr(0, front + static_cast<std::size_t>(size));
-    front = first && bytes == "\x1f" ? bytes.size() : 0;
-    if (front != 0)
-      continue;
-    if (first && bytes.substr(0, 2) == "\x1f\x8b")
-      inflater = std::make_unique<Inflater>(path);
-    first = false;
+  std::string buffer(pieceSize, '\0');
+  auto piece = readSome(file, path, buffer, gzipMagic.size());
+  if (piece.substr(0, gzipMagic.size()) == gzipMagic)
+    inflater = std::make_unique<Inflater>(path);
+  for (; !piece.empty(); piece = readSome(file, path, buffer, 1))
     if (inflater)
-      inflater->push(bytes, read);
+      inflater->push(piece, read);
     else
-      read(bytes);
-  }
-  if (front != 0)
-    read(std::string_view(piece).substr(0, front));
+      read(piece);
   if (inflater)
     inflater->finish();
 }
