@@ -300,8 +300,8 @@ private:
   void settle(BareEntry const&) {}
   void settle(LastDialled const&) {}
   void settle(Request const& message) { settleIds(message.entryIds); }
-  /// Readers of a list search the close tag behind the begin tag, so a stray one in front is
-  /// nothing.
+  /// Readers of a list search the close tag behind the begin tag, so a stray one in front
+  /// does no harm.
   void settle(ListResponse const& message) {
     auto group = named(word::HANDLE);
     group.erase(std::remove_if(group.begin(), group.end(),

@@ -120,12 +120,13 @@ bool takeDumpLine(std::string_view line, std::string& out) {
   return out.size() > before && held.empty();
 }
 
-/// A dump from the start can begin with any text, or else a message has to be in front.
+/// A dump from offset 0 with a full row may hold any text; any other has to begin with a message.
 bool isDump(std::string_view line) {
   std::string bytes;
   auto const offset = line.substr(0, digitsAtFront(line));
   bool const fromStart = offset.size() >= 7 && offset.find_first_not_of('0') == npos;
-  return takeDumpLine(line, bytes) && (fromStart || beginsWithTag(bytes));
+  return takeDumpLine(line, bytes) &&
+         ((fromStart && bytes.size() >= leastDigits) || beginsWithTag(bytes));
 }
 
 template <class Take, class IsPacked>

@@ -132,6 +132,9 @@ Row const rows[] = {
      {list.substr(0, 60), list}},
     {"nothing", "", {}},
     {"white space", " \n\n", {}},
+    {"zeros and digits in the first line of a log",
+     "0000000 1234 5678\nRX " + request + "\n",
+     {request}},
     {"a text without a message", "hello <b>world</b>\n", {}},
 };
 
