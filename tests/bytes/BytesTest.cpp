@@ -23,17 +23,26 @@ std::vector<char> bytes(std::size_t size) {
 // What differs in one bit, in all bits, and in the sign only.
 constexpr unsigned char differences[] = {0x01, 0xff, 0x80, 0x02};
 
-TEST(SameBytes, AreSameOnlyIfEachOneIs) {
-  for (std::size_t size = 4; size <= 70; ++size) {
+template <class Same>
+void expectSameOnlyIfEachByteIs(Same same, std::size_t largest) {
+  for (std::size_t size = journal::smallestCompared; size <= largest; ++size) {
     auto const left = bytes(size);
-    EXPECT_TRUE(journal::sameBytes(left.data(), bytes(size).data(), size)) << size;
+    EXPECT_TRUE(same(left.data(), bytes(size).data(), size)) << size;
     for (std::size_t at = 0; at < size; ++at)
       for (auto const difference : differences) {
         auto right = left;
         right[at] = static_cast<char>(right[at] ^ difference);
-        EXPECT_FALSE(journal::sameBytes(left.data(), right.data(), size)) << size << ' ' << at;
+        EXPECT_FALSE(same(left.data(), right.data(), size)) << size << ' ' << at;
       }
   }
+}
+
+TEST(SameBytes, AreSameOnlyIfEachOneIs) {
+  expectSameOnlyIfEachByteIs(journal::sameBytes, 70);
+}
+
+TEST(SameTag, IsSameOnlyIfEachByteIs) {
+  expectSameOnlyIfEachByteIs(journal::sameTag, journal::largestTag);
 }
 
 TEST(SameFront, IsSameWhateverFollows) {
