@@ -74,6 +74,17 @@ TYPED_TEST(Lookalikes, AreNotReadWhereCloseTagsAreMisspelt) {
   this->expectAsPlainReader(fields);
 }
 
+TYPED_TEST(Lookalikes, AreNotReadWhereABeginTagIsACloseTag) {
+  for (auto const& body : {this->body(), this->usualBody()})
+    for (auto const at : placesOf(body, "<")) {
+      if (body[at + 1] == '/')
+        continue;
+      auto text = body;
+      text.insert(at + 1, "/");
+      this->expectAsPlainReader(text);
+    }
+}
+
 TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
   for (auto const& body : {this->body(), this->usualBody()})
     for (Size at = 0; at < body.size(); ++at)
