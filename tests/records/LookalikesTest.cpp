@@ -22,6 +22,14 @@ std::vector<Size> placesOf(std::string const& text, std::string const& wanted) {
   return places;
 }
 
+// The elements of a text from one place to another, which hold no others.
+std::vector<std::string> elementsOf(std::string const& text, Size from, Size end) {
+  std::vector<std::string> elements;
+  for (Size at = from; at < end; at += elements.back().size())
+    elements.push_back(text.substr(at, text.find('>', text.find("</", at)) + 1 - at));
+  return elements;
+}
+
 template <class KindType>
 class Lookalikes : public ::testing::Test {
 protected:
@@ -49,10 +57,10 @@ protected:
     return KindType::body(item);
   }
 
-  static void expectAsPlainReader(std::string const& text) {
+  static void expectAsPlainReader(std::string const& text,
+                                  comparison::Level level = comparison::Level::itemText) {
     for (auto const outputs : {comparison::Outputs::fresh, comparison::Outputs::filled})
-      EXPECT_EQ("", comparison::compareDecoder(text, KindType::KIND_OF_LOG,
-                                               comparison::Level::itemText, outputs));
+      EXPECT_EQ("", comparison::compareDecoder(text, KindType::KIND_OF_LOG, level, outputs));
   }
 };
 
@@ -100,12 +108,7 @@ TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverCharacterIsAnother) {
 TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverElementIsElsewhere) {
   auto const body = this->usualBody();
   auto const item = body.find("<Item>") + 6;
-  std::vector<std::string> elements;
-  for (Size at = item; body.compare(at, 2, "</") != 0;) {
-    auto const end = body.find('>', body.find("</", at)) + 1;
-    elements.push_back(body.substr(at, end - at));
-    at = end;
-  }
+  auto const elements = elementsOf(body, item, body.find("</Item>"));
   ASSERT_GT(elements.size(), 6U);
   auto const expectOf = [&](std::vector<std::string> const& changed) {
     auto text = body.substr(0, item);
@@ -130,6 +133,37 @@ TYPED_TEST(Lookalikes, AreReadByTheRulesWhicheverElementIsElsewhere) {
       expectOf(changed);
     }
   }
+}
+
+TYPED_TEST(Lookalikes, AreReadByTheRulesWhereAnEntrysElementIsAmongItsCalls) {
+  auto const body = this->body();
+  auto const calls = body.find("<LogList>");
+  auto const elements = elementsOf(body, 0, calls);
+  ASSERT_GT(elements.size(), 2U);
+  for (auto const& element : elements)
+    for (auto const at : placesOf(body, "<"))
+      if (at >= calls) {
+        auto text = body;
+        text.insert(at, element);
+        this->expectAsPlainReader(text);
+        text.erase(text.find(element), element.size());
+        this->expectAsPlainReader(text);
+      }
+}
+
+TYPED_TEST(Lookalikes, AreNotReadInASecondLogListOrInOneThatBeginsAsAnItem) {
+  auto const body = this->body();
+  auto const calls = body.find("<LogList>");
+  this->expectAsPlainReader("<Unknown>1</Unknown>" + body + body.substr(calls));
+  this->expectAsPlainReader(body.substr(0, calls) + "<Item>" + body.substr(calls + 9));
+}
+
+TYPED_TEST(Lookalikes, AreNotReadPastTheEndOfAnEntry) {
+  auto const body = this->body();
+  auto const calls = body.substr(body.find("<LogList>"));
+  auto const unclosed = body.substr(0, body.find("</LogList>"));
+  this->expectAsPlainReader("<Entry>" + unclosed + "</Entry><Entry>" + calls + "</Entry>",
+                            comparison::Level::log);
 }
 
 TYPED_TEST(Lookalikes, AreNotReadWhereACloseTagFollowsAnEmptyItem) {
