@@ -37,7 +37,7 @@ void expectSameOnlyIfEachByteIs(Same same, std::size_t largest) {
   }
 }
 
-TEST(SameBytes, AreSameOnlyIfEachOneIs) {
+TEST(SameBytes, AreSameOnlyIfEachByteIs) {
   expectSameOnlyIfEachByteIs(journal::sameBytes, 70);
 }
 

@@ -168,7 +168,8 @@ TEST(Robustness, ControlCharactersNeverReachATerminal) {
   EXPECT_NE(shown.find("\\x1b[31m"), std::string::npos) << shown;
 }
 
-// The first piece comes at once, the second one after the bar may be drawn.
+// The first piece comes at once, the second one after the bar may be drawn. A bare root has no
+// pseudo-terminals; there, only that no bar is drawn elsewhere is tested.
 TEST(Robustness, ABarIsDrawnOnATerminalAfterTwoSeconds) {
   std::string const slowly = "(cat $samples/missed.xml; sleep 2.2; cat $samples/missed.xml) |"
                              "journalmsg identify >/dev/null";
