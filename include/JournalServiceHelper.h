@@ -477,8 +477,8 @@ public:
   // One element, read from a whole message
   //
   // The value is the text between the first begin tag and the first close tag of the whole message,
-  // each searched from the front. There is none when the close tag is missing or comes before the
-  // end of the begin tag, or when nothing is between them: false means absent, empty or out of
+  // each searched for from the front. There is none when the close tag is missing or comes before
+  // the end of the begin tag, or when nothing is between them: false means absent, empty or out of
   // order. Positions are compared as signed 32-bit numbers.
   //
   // A missing begin tag counts as position -1. A close tag far enough on then gives true and the
@@ -638,7 +638,7 @@ public:
   // ===============================================================================================
   // The vocabulary: constants, created when the library is loaded. Case matters everywhere.
   //
-  // 35 of them are for callers only, no operation uses them: the element names INDEX, ENTRY,
+  // 35 of them are for callers only; no operation uses them: the element names INDEX, ENTRY,
   // UNIQUEIDTODELETE, ACTIONTYPE, LOGLIST, ITEM and SURNAME to TIMEFORMAT (operations use the tag
   // pairs), the tag pair of REASONFORMESSAGE (operations use the name), UPDATEREQUEST, WRITEREQUEST
   // and DAS_CALLLOGENABLEDSTATE. Of these, INDEX and the last three occur in no message.

@@ -300,7 +300,7 @@ private:
   void settle(BareEntry const&) {}
   void settle(LastDialled const&) {}
   void settle(Request const& message) { settleIds(message.entryIds); }
-  /// Readers of a list search the close tag behind the begin tag, so a stray one in front
+  /// Readers of a list search for the close tag behind the begin tag, so a stray one in front
   /// does no harm.
   void settle(ListResponse const& message) {
     auto group = named(word::HANDLE);

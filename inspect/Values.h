@@ -16,7 +16,7 @@ namespace inspect {
 std::optional<RuleId> judge(Row const& row, std::string_view raw,
                             std::optional<std::string> const& stored);
 
-/// Whether a value holds a tag that readers search.
+/// Whether a value holds a tag that readers search for.
 bool holdsElement(std::string_view raw);
 
 bool isSchema(std::string_view name);

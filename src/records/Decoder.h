@@ -12,7 +12,7 @@
 
 namespace journal {
 
-// The decoder without types. The pointers are to records and containers of the kind: a log is a
+// The type-erased decoder. The pointers are to records and containers of the kind: a log is a
 // std::deque of entries, calls are a std::list.
 namespace erased {
 bool decodeCall(LogKind kind, char const* text, void* call);

@@ -10,7 +10,7 @@
 
 namespace journal {
 
-// The encoder without types. The pointers are to records of the kind; a log is a std::deque of
+// The type-erased encoder. The pointers are to records of the kind; a log is a std::deque of
 // entries.
 namespace erased {
 void appendEntryBody(LogKind kind, void const* entry, std::string& out);

@@ -48,8 +48,8 @@ protected:
     return count;
   }
 
-  // What it allocates besides the names themselves when a log is read: a short name with a longer
-  // escaped form comes back in a string with the capacity for that form.
+  // What it allocates besides the names themselves when a log is read. The stand-in allocates
+  // nothing more; another one may return a name in a string with the capacity of its escaped form.
   static long besidesUnescapedNames(Log const& log) {
     return sumOverNames(log, [](std::string const& name) {
       auto const escaped = ClientUtils::escapeXMLString(name);

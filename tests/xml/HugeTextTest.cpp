@@ -22,7 +22,7 @@ bool canHold(std::uint64_t size) {
 TEST(HugeText, IsReadByPositionsOf32Bits) {
   constexpr std::uint64_t boundary = 0x80000000;
   constexpr std::uint64_t size = boundary + 64;
-  // Such a text fits neither on a 32-bit machine nor into little memory; CI's machines have enough.
+  // Such a text needs a 64-bit machine with memory to spare; CI's machines have it.
   if (!canHold(size))
     GTEST_SKIP() << "needs a 64-bit machine with 4 GiB of memory to spare";
 
