@@ -8,7 +8,7 @@ What a block's language says:
   python   run
   sh       run in the script's own shell, as by a reader who copies each line
   console  the lines behind "$ " are run, the other lines are what they print
-  none     nothing, as for text; any other language needs a file, prints or skip
+  text     nothing, as without a language; any other language needs a file, prints or skip
 
 A comment in front of a block says more, several things separated by semicolons:
   <!-- block: continues -->       the blocks of its language above it come first
